@@ -1,0 +1,85 @@
+/* The card pictures and the icon, as they stand in their files, in the order of the set. */
+
+    .macro asset file
+    .section .rodata.tumble_assets, "a", %progbits
+9:  .incbin "\file"
+    .section .rodata.tumble_asset_offsets, "a", %progbits
+    .long 9b - tumble_assets
+    .endm
+
+    .section .rodata.tumble_assets, "a", %progbits
+    .globl tumble_assets
+    .hidden tumble_assets
+tumble_assets:
+
+    .section .rodata.tumble_asset_offsets, "a", %progbits
+    .balign 4
+    .globl tumble_asset_offsets
+    .hidden tumble_asset_offsets
+tumble_asset_offsets:
+
+    asset "AceClubs.gif"
+    asset "AceDiamonds.gif"
+    asset "AceHearts.gif"
+    asset "AceSpades.gif"
+    asset "TwoClubs.gif"
+    asset "TwoDiamonds.gif"
+    asset "TwoHearts.gif"
+    asset "TwoSpades.gif"
+    asset "ThreeClubs.gif"
+    asset "ThreeDiamonds.gif"
+    asset "ThreeHearts.gif"
+    asset "ThreeSpades.gif"
+    asset "FourClubs.gif"
+    asset "FourDiamonds.gif"
+    asset "FourHearts.gif"
+    asset "FourSpades.gif"
+    asset "FiveClubs.gif"
+    asset "FiveDiamonds.gif"
+    asset "FiveHearts.gif"
+    asset "FiveSpades.gif"
+    asset "SixClubs.gif"
+    asset "SixDiamonds.gif"
+    asset "SixHearts.gif"
+    asset "SixSpades.gif"
+    asset "SevenClubs.gif"
+    asset "SevenDiamonds.gif"
+    asset "SevenHearts.gif"
+    asset "SevenSpades.gif"
+    asset "EightClubs.gif"
+    asset "EightDiamonds.gif"
+    asset "EightHearts.gif"
+    asset "EightSpades.gif"
+    asset "NineClubs.gif"
+    asset "NineDiamonds.gif"
+    asset "NineHearts.gif"
+    asset "NineSpades.gif"
+    asset "TenClubs.gif"
+    asset "TenDiamonds.gif"
+    asset "TenHearts.gif"
+    asset "TenSpades.gif"
+    asset "JackClubs.gif"
+    asset "JackDiamonds.gif"
+    asset "JackHearts.gif"
+    asset "JackSpades.gif"
+    asset "QueenClubs.gif"
+    asset "QueenDiamonds.gif"
+    asset "QueenHearts.gif"
+    asset "QueenSpades.gif"
+    asset "KingClubs.gif"
+    asset "KingDiamonds.gif"
+    asset "KingHearts.gif"
+    asset "KingSpades.gif"
+    asset "Joker.gif"
+    asset "CardBack1.gif"
+    asset "CardBack2.gif"
+    asset "CardBack3.gif"
+    asset "CardBack4.gif"
+    asset "tumble.gif"
+
+    .section .rodata.tumble_assets, "a", %progbits
+9:
+    .section .rodata.tumble_asset_offsets, "a", %progbits
+    .long 9b - tumble_assets
+
+    .section .note.GNU-stack, "", %progbits

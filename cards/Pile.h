@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace tumble {
+
+class Card;
+
+/// Decides whether a card dropped on a pile may stay there.
+class PileAccepter {
+public:
+    PileAccepter() = default;
+    PileAccepter(const PileAccepter&) = delete;
+    PileAccepter& operator=(const PileAccepter&) = delete;
+    PileAccepter(PileAccepter&&) = delete;
+    PileAccepter& operator=(PileAccepter&&) = delete;
+    virtual ~PileAccepter() = default;
+
+    /// `pileCard` stands for the pile on the table, `crd` is the card dropped on it. A refusal has been explained to
+    /// the player when the call returns.
+    virtual bool acceptCard(const Card& pileCard, const Card& crd) = 0;
+};
+
+/// A stack of cards as its pile card and the drag see it.
+class Pile {
+public:
+    Pile() = default;
+    Pile(const Pile&) = delete;
+    Pile& operator=(const Pile&) = delete;
+    Pile(Pile&&) = delete;
+    Pile& operator=(Pile&&) = delete;
+    virtual ~Pile() = default;
+
+    /// The top card, left where it is; empty when there is none.
+    virtual std::shared_ptr<Card> seeTopCard() const = 0;
+    /// Takes the top card off and returns it; empty when there is none.
+    virtual std::shared_ptr<Card> takeTopCard() = 0;
+    virtual void addCardToTop(std::shared_ptr<Card> crd) = 0;
+    virtual std::int16_t numCards() const = 0;
+    /// Empty when the pile takes any card.
+    virtual std::shared_ptr<PileAccepter> accepter() const = 0;
+    /// All its cards, the bottom one first.
+    virtual const std::vector<std::shared_ptr<Card>>& cards() const = 0;
+};
+
+} // namespace tumble

@@ -1,0 +1,12 @@
+#include "game/MainMod.h"
+#include "platform/qt/Display.h"
+#include "platform/qt/QtDesktop.h"
+
+int main() {
+    const tumble::Display display;
+    tumble::QtDesktop desktop(tumble::application());
+    tumble::MainMod mainMod;
+    mainMod.Main();
+    desktop.run();
+    return 0;
+}

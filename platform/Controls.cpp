@@ -1,0 +1,109 @@
+#include "platform/Controls.h"
+
+#include "platform/Desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tumble {
+
+Control::Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex)
+    : container_(container), name_(std::move(name)), caption_(std::move(caption)), place_(place), tabIndex_(tabIndex) {}
+
+void Control::Caption(std::string caption) {
+    caption_ = std::move(caption);
+    changed();
+}
+
+void Control::changed() {
+    desktop().changed(*this);
+}
+
+PictureBox::PictureBox(Container& container, std::string name, const Place& place, int tabIndex, Colour backColor)
+    : Control(container, std::move(name), {}, place, tabIndex), DrawingSurface(place.Width, place.Height, backColor) {
+    container.add(this);
+}
+
+void PictureBox::painted(const PaintItem& item) {
+    desktop().painted(*this, item);
+}
+
+Label::Label(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+             Font labelFont, TextAlign textAlign)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex), font(labelFont), align(textAlign) {
+    container.add(this);
+}
+
+CommandButton::CommandButton(Container& container, std::string name, std::string caption, const Place& place,
+                             int tabIndex, Handler click, ButtonKeys pressedBy, ButtonFace look)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex),
+      Click(std::move(click)),
+      keys(pressedBy),
+      face(look) {
+    container.add(this);
+}
+
+OptionButton::OptionButton(Container& container, std::string name, std::string caption, const Place& place,
+                           int tabIndex, Handler click, std::string tag, Choice choice)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex),
+      click_(std::move(click)),
+      tag_(std::move(tag)),
+      value_(choice == Choice::Selected) {
+    container.add(this);
+}
+
+void OptionButton::Select() {
+    if (value_) {
+        return;
+    }
+    for (const AnyControl& control : container().controls()) {
+        auto* const* other = std::get_if<OptionButton*>(&control);
+        if (other != nullptr && (*other)->value_) {
+            (*other)->value_ = false;
+            (*other)->changed();
+        }
+    }
+    value_ = true;
+    changed();
+    click_();
+}
+
+Frame::Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+             Font captionFont)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex), font(captionFont) {
+    container.add(this);
+}
+
+Slider::Slider(Container& container, std::string name, const Place& place, int tabIndex, int min, int max,
+               Handler change)
+    : Control(container, std::move(name), {}, place, tabIndex),
+      min_(min),
+      max_(max),
+      value_(min),
+      change_(std::move(change)) {
+    container.add(this);
+}
+
+void Slider::Min(int min) {
+    min_ = min;
+    changed();
+    Value(value_);
+}
+
+void Slider::Max(int max) {
+    max_ = max;
+    changed();
+    Value(value_);
+}
+
+void Slider::Value(int value) {
+    const int inRange = std::max(min_, std::min(value, max_));
+    if (inRange == value_) {
+        return;
+    }
+    value_ = inRange;
+    changed();
+    change_();
+}
+
+} // namespace tumble

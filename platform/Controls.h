@@ -1,0 +1,179 @@
+#pragma once
+
+#include "platform/DrawingSurface.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tumble {
+
+class Form;
+class PictureBox;
+class Label;
+class CommandButton;
+class OptionButton;
+class Frame;
+class Slider;
+
+using AnyControl = std::variant<PictureBox*, Label*, CommandButton*, OptionButton*, Frame*, Slider*>;
+using Handler = std::function<void()>;
+
+/// Where a control lies in its container, in twips.
+struct Place {
+    float Left;
+    float Top;
+    float Width;
+    float Height;
+};
+
+struct Font {
+    float points = 8.25F;
+    bool bold = false;
+};
+
+/// What holds controls: a form or a frame. The controls are its owner's members; it only lists them, in their order.
+class Container {
+public:
+    Container() = default;
+    Container(const Container&) = delete;
+    Container& operator=(const Container&) = delete;
+    Container(Container&&) = delete;
+    Container& operator=(Container&&) = delete;
+    virtual ~Container() = default;
+
+    virtual Form& form() = 0;
+    const std::vector<AnyControl>& controls() const { return controls_; }
+    void add(AnyControl control) { controls_.push_back(control); }
+
+private:
+    std::vector<AnyControl> controls_;
+};
+
+/// What every control has. Controls hold their state; the desktop shows it and calls the operations and events that
+/// answer to what the player does, as a test does. An ampersand marks a caption's access key.
+class Control {
+public:
+    Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    Control(Control&&) = delete;
+    Control& operator=(Control&&) = delete;
+
+    const std::string& Name() const { return name_; }
+    const Place& place() const { return place_; }
+    int TabIndex() const { return tabIndex_; }
+    Container& container() const { return container_; }
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string caption);
+
+protected:
+    ~Control() = default;
+    /// Tells the desktop to show the control's new state.
+    void changed();
+
+private:
+    Container& container_;
+    std::string name_;
+    std::string caption_;
+    Place place_;
+    int tabIndex_;
+};
+
+/// A drawing surface that reports the mouse: button 1 left, 2 right, 4 middle (for a move, the sum of those held);
+/// shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips, also outside the box while a button is held.
+class PictureBox : public Control, public DrawingSurface {
+public:
+    using MouseEvent = std::function<void(std::int16_t Button, std::int16_t Shift, float X, float Y)>;
+
+    PictureBox(Container& container, std::string name, const Place& place, int tabIndex, Colour backColor);
+
+    MouseEvent MouseDown;
+    MouseEvent MouseMove;
+    MouseEvent MouseUp;
+
+protected:
+    void painted(const PaintItem& item) override;
+};
+
+enum class TextAlign { Left, Centre };
+
+class Label : public Control {
+public:
+    Label(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font = {},
+          TextAlign align = TextAlign::Left);
+
+    const Font font;
+    const TextAlign align;
+};
+
+/// Which keys press a button wherever the focus is.
+enum class ButtonKeys { None, Enter, Esc, EnterAndEsc };
+
+enum class ButtonFace { Caption, IconAboveCaption };
+
+class CommandButton : public Control {
+public:
+    CommandButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+                  Handler click, ButtonKeys pressedBy = ButtonKeys::None, ButtonFace look = ButtonFace::Caption);
+
+    bool pressedByEnter() const { return keys == ButtonKeys::Enter || keys == ButtonKeys::EnterAndEsc; }
+    bool pressedByEsc() const { return keys == ButtonKeys::Esc || keys == ButtonKeys::EnterAndEsc; }
+
+    const Handler Click;
+    const ButtonKeys keys;
+    const ButtonFace face;
+};
+
+enum class Choice { Open, Selected };
+
+/// One of the choices of its container, of which exactly one is selected.
+class OptionButton : public Control {
+public:
+    OptionButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+                 Handler click, std::string tag = {}, Choice choice = Choice::Open);
+
+    bool Value() const { return value_; }
+    /// Makes this the selected choice and raises its click; nothing happens when it is already.
+    void Select();
+    const std::string& Tag() const { return tag_; }
+
+private:
+    Handler click_;
+    std::string tag_;
+    bool value_;
+};
+
+/// A titled box around the controls in it.
+class Frame : public Control, public Container {
+public:
+    Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font);
+
+    Form& form() override { return Control::container().form(); }
+
+    const Font font;
+};
+
+/// An upright slider over whole numbers, its minimum at the top.
+class Slider : public Control {
+public:
+    Slider(Container& container, std::string name, const Place& place, int tabIndex, int min, int max, Handler change);
+
+    int Min() const { return min_; }
+    void Min(int min);
+    int Max() const { return max_; }
+    void Max(int max);
+    int Value() const { return value_; }
+    /// Brought into the range; raises the change when the value becomes another.
+    void Value(int value);
+
+private:
+    int min_;
+    int max_;
+    int value_;
+    Handler change_;
+};
+
+} // namespace tumble

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/Form.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tumble {
+
+class Random;
+
+/// What the program says of itself.
+struct Application {
+    std::string Title;
+    std::int16_t Major;
+    std::int16_t Minor;
+    std::int16_t Revision;
+    const Picture& Icon;
+};
+
+/// The windowing system as the game sees it.
+class Desktop {
+public:
+    explicit Desktop(Application application);
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    Desktop(Desktop&&) = delete;
+    Desktop& operator=(Desktop&&) = delete;
+    virtual ~Desktop() = default;
+
+    const Application& App() const { return application_; }
+
+    virtual void Show(Form& form, Modality modality) = 0;
+    virtual void Hide(Form& form) = 0;
+    virtual void Unload(Form& form) = 0;
+    virtual void Refresh(Form& form) = 0;
+    virtual void MousePointer(Form& form, Pointer pointer) = 0;
+    /// Shows a message box with an OK button and returns when the player has closed it; no form takes input meanwhile.
+    virtual void MsgBox(const std::string& text, const std::string& caption) = 0;
+    /// A message box under the application's title.
+    void MsgBox(const std::string& text) { MsgBox(text, application_.Title); }
+    /// Ends the application: no further event is handled once the running one has returned.
+    virtual void End() = 0;
+
+    /// A control's caption or value is another.
+    virtual void changed(Control& control) = 0;
+    /// An item was laid over a picture box's painting.
+    virtual void painted(PictureBox& box, const PaintItem& item) = 0;
+
+    virtual Random& random() = 0;
+
+private:
+    Application application_;
+};
+
+/// The desktop in use.
+Desktop& desktop();
+/// Sets the desktop in use, which must outlive every form; null takes it out of use.
+void desktop(Desktop* inUse);
+
+} // namespace tumble

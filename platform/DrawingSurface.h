@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/Painting.h"
+
+#include <optional>
+
+namespace tumble {
+
+class DrawingSurface;
+
+enum class BoxFill { Outline, Filled };
+
+/// Paints one item on a surface: open it for a place, paint, and the item is on the surface when the brush goes.
+/// Coordinates are the surface's twips; nothing shows outside the place.
+class Brush {
+public:
+    Brush(DrawingSurface& surface, const Rect& place);
+    Brush(const Brush&) = delete;
+    Brush& operator=(const Brush&) = delete;
+    Brush(Brush&&) = delete;
+    Brush& operator=(Brush&&) = delete;
+    ~Brush();
+
+    /// Scales the whole picture into the box; the picture must outlive the surface.
+    void PaintPicture(const Picture& picture, float x, float y, float width, float height);
+    void Line(Point from, Point to, Colour colour);
+    /// A line from where the last one ended (at first, from the place's top left corner).
+    void Line(Point to, Colour colour);
+    /// Without a colour, in the surface's `ForeColor`.
+    void Line(const Rect& box, std::optional<Colour> colour, BoxFill fill);
+    /// `radius` in twips.
+    void Circle(Point centre, float radius, Colour colour);
+
+private:
+    DrawingSurface& surface_;
+    PaintItem item_;
+    Point current_;
+};
+
+/// What cards paint on. It keeps its painting, whatever covers the window.
+class DrawingSurface {
+public:
+    /// `width` and `height` in twips; the surface starts empty, showing `backColor`.
+    DrawingSurface(float width, float height, Colour backColor);
+    DrawingSurface(const DrawingSurface&) = delete;
+    DrawingSurface& operator=(const DrawingSurface&) = delete;
+    DrawingSurface(DrawingSurface&&) = delete;
+    DrawingSurface& operator=(DrawingSurface&&) = delete;
+    virtual ~DrawingSurface() = default;
+
+    float Width() const { return width_; }
+    float Height() const { return height_; }
+
+    Colour BackColor() const { return backColor_; }
+    /// Used from now on; what is painted already stays as it is.
+    void BackColor(Colour colour) { backColor_ = colour; }
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour colour) { foreColor_ = colour; }
+
+    /// Opens one item that covers `place`.
+    [[nodiscard]] Brush Paint(const Rect& place) { return {*this, place}; }
+    /// Clears the surface to `BackColor`.
+    void Cls();
+
+    const Painting& painting() const { return painting_; }
+
+protected:
+    /// Called with each item once the painting has it (for `Cls`, with a filling of the whole surface).
+    virtual void painted(const PaintItem& /*item*/) {}
+
+private:
+    friend class Brush;
+    void add(const PaintItem& item);
+
+    float width_;
+    float height_;
+    Colour backColor_;
+    Colour foreColor_ = 0;
+    Painting painting_;
+};
+
+} // namespace tumble

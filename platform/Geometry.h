@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tumble {
+
+/// 24 bits, 0xBBGGRR: red in the low byte.
+using Colour = std::int32_t;
+
+/// How many twips one pixel of an unscaled screen is wide and high.
+inline constexpr float twipsPerPixel = 15;
+
+/// A point in twips, origin at the top left, y downwards.
+struct Point {
+    float x = 0;
+    float y = 0;
+
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
+/// A rectangle in twips that includes all four of its edges.
+struct Rect {
+    float left = 0;
+    float top = 0;
+    float right = -1;
+    float bottom = -1;
+
+    /// True also when an edge is not a number.
+    bool empty() const { return !(left <= right && top <= bottom); }
+
+    bool contains(const Rect& other) const {
+        return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
+    }
+
+    /// True when less than `gap` twips of space lie between the two; with no gap, when they share a point.
+    bool meets(const Rect& other, float gap = 0) const {
+        return left <= other.right + gap && other.left <= right + gap && top <= other.bottom + gap &&
+               other.top <= bottom + gap;
+    }
+
+    friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+} // namespace tumble

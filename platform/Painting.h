@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/Geometry.h"
+
+#include <variant>
+#include <vector>
+
+namespace tumble {
+
+struct Picture;
+
+/// A picture scaled to fill `box`.
+struct PictureOperation {
+    const Picture* picture;
+    Rect box;
+    friend bool operator==(const PictureOperation&, const PictureOperation&) = default;
+};
+
+/// A box filled with one colour, edges included.
+struct FillOperation {
+    Rect box;
+    Colour colour;
+    friend bool operator==(const FillOperation&, const FillOperation&) = default;
+};
+
+/// The outline of a box, drawn inside it.
+struct BoxOperation {
+    Rect box;
+    Colour colour;
+    friend bool operator==(const BoxOperation&, const BoxOperation&) = default;
+};
+
+/// A straight line, both ends included.
+struct LineOperation {
+    Point from;
+    Point to;
+    Colour colour;
+    friend bool operator==(const LineOperation&, const LineOperation&) = default;
+};
+
+/// The outline of a circle.
+struct CircleOperation {
+    Point centre;
+    float radius;
+    Colour colour;
+    friend bool operator==(const CircleOperation&, const CircleOperation&) = default;
+};
+
+using Operation = std::variant<PictureOperation, FillOperation, BoxOperation, LineOperation, CircleOperation>;
+
+/// One bracketed piece of painting: the operations in their order, clipped to `place`.
+struct PaintItem {
+    Rect place;
+    std::vector<Operation> operations;
+
+    /// True when the first operation covers the whole place, so that nothing beneath can show.
+    bool opaque() const;
+    /// True when all it does is to fill its place with `ground`.
+    bool erases(Colour ground) const;
+
+    friend bool operator==(const PaintItem&, const PaintItem&) = default;
+};
+
+/// What shows on a drawing surface: a ground of one colour and the items that still show on it, oldest first. Painting
+/// the list gives the same pixels, at every scale from 1 up, as painting everything that was ever added.
+class Painting {
+public:
+    /// An empty painting; `width` and `height` of the surface in twips.
+    Painting(float width, float height, Colour ground);
+
+    /// Lays an item over the painting and lets go of those that no longer show. An item with an empty place, or with
+    /// one that lies wholly off the surface, adds nothing.
+    void add(const PaintItem& item);
+    void clear(Colour ground);
+
+    /// The whole surface, in twips.
+    Rect bounds() const { return bounds_; }
+    Colour ground() const { return ground_; }
+    const std::vector<PaintItem>& items() const { return items_; }
+
+private:
+    void removeIdleErasures();
+
+    Rect bounds_;
+    Colour ground_;
+    std::vector<PaintItem> items_;
+};
+
+} // namespace tumble

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <random>
+
+namespace tumble {
+
+/// A pseudo-random generator.
+class Random {
+public:
+    Random() = default;
+    Random(const Random&) = delete;
+    Random& operator=(const Random&) = delete;
+    Random(Random&&) = delete;
+    Random& operator=(Random&&) = delete;
+    virtual ~Random() = default;
+
+    /// Seeds the generator from the system clock.
+    virtual void Randomize() = 0;
+    /// The next value r, 0 <= r < 1.
+    virtual float Rnd() = 0;
+};
+
+/// The generator of the real desktop.
+class ClockRandom : public Random {
+public:
+    void Randomize() override;
+    float Rnd() override;
+
+private:
+    std::mt19937 engine_;
+};
+
+} // namespace tumble

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "platform/Random.h"
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tumble {
+
+/// A generator that hands out the values it was given, over and over; zero when it was given none.
+class ScriptedRandom : public Random {
+public:
+    void script(std::vector<float> values) { values_ = std::move(values); }
+    /// How often it was seeded, and how many values were drawn.
+    int seeded() const { return seeded_; }
+    std::size_t drawn() const { return drawn_; }
+
+    void Randomize() override { ++seeded_; }
+    float Rnd() override;
+
+private:
+    std::vector<float> values_;
+    int seeded_ = 0;
+    std::size_t drawn_ = 0;
+};
+
+/// A desktop without a display: it lists what it was asked to show, and a test reads the lists.
+class MemoryDesktop : public Desktop {
+public:
+    struct Message {
+        std::string text;
+        std::string caption;
+        friend bool operator==(const Message&, const Message&) = default;
+    };
+
+    /// Puts itself in use, until it goes.
+    explicit MemoryDesktop(Application application);
+    MemoryDesktop(const MemoryDesktop&) = delete;
+    MemoryDesktop& operator=(const MemoryDesktop&) = delete;
+    MemoryDesktop(MemoryDesktop&&) = delete;
+    MemoryDesktop& operator=(MemoryDesktop&&) = delete;
+    ~MemoryDesktop() override;
+
+    void Show(Form& form, Modality modality) override;
+    void Hide(Form& form) override;
+    void Unload(Form& form) override;
+    void Refresh(Form& form) override;
+    void MousePointer(Form& form, Pointer pointer) override;
+    using Desktop::MsgBox;
+    void MsgBox(const std::string& text, const std::string& caption) override;
+    void End() override { ended_ = true; }
+    void changed(Control& /*control*/) override {}
+    void painted(PictureBox& box, const PaintItem& item) override;
+    ScriptedRandom& random() override { return random_; }
+
+    /// The message boxes since the last call, in their order.
+    std::vector<Message> takeMessages();
+    bool shows(const Form& form) const;
+    bool ended() const { return ended_; }
+    /// What forms were asked for, in order: "show Tumble Options", "pointer 11", "refresh Tumble", ...
+    const std::vector<std::string>& journal() const { return journal_; }
+    /// Every item ever painted on the box since the call of `keepLog`.
+    const std::vector<PaintItem>& log(const PictureBox& box) { return logs_[&box]; }
+    void keepLog() { keepsLog_ = true; }
+
+    /// What the player does while a message box is open, and while a modal form is.
+    std::function<void()> whileMessageIsOpen;
+    std::function<void(Form&)> whileModal;
+
+private:
+    void note(std::string what, const Form& form);
+
+    std::vector<const Form*> shown_;
+    std::vector<Message> messages_;
+    std::vector<std::string> journal_;
+    std::map<const PictureBox*, std::vector<PaintItem>> logs_;
+    ScriptedRandom random_;
+    bool keepsLog_ = false;
+    bool ended_ = false;
+};
+
+} // namespace tumble

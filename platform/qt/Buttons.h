@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tumble {
+
+/// An option button whose caption wraps, and which is selected by a click anywhere in its place.
+class WrappingRadioButton : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+    /// Where the caption goes, in the button's own logical pixels.
+    QRect captionRoom() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool hitButton(const QPoint& place) const override;
+};
+
+/// A group box whose caption breaks its upper line, so that the whole box below is its controls'.
+class CaptionedFrame : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+    /// Where the caption goes, in the frame's own logical pixels.
+    QRect captionRoom() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// A button that shows its icon above its caption.
+class IconAboveButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace tumble

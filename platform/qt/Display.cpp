@@ -1,0 +1,52 @@
+#include "platform/qt/Display.h"
+
+#include <QGuiApplication>
+#include <QLoggingCategory>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <string_view>
+#include <unistd.h>
+
+namespace tumble {
+
+namespace {
+
+constexpr unsigned longestWait = 10; // seconds
+
+// Also called from a signal handler: nothing here but what may be.
+[[noreturn]] void giveUp(std::string_view why) {
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, why.data(), why.size());
+    std::_Exit(1);
+}
+
+void onAlarm(int /*signal*/) {
+    giveUp("tumble: the display does not answer\n");
+}
+
+// The toolkit tells its troubles with the display in several lines and then aborts.
+void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type == QtFatalMsg) {
+        giveUp("tumble: there is no display to open a window on\n");
+    }
+}
+
+} // namespace
+
+Display::Display() {
+    static std::array<char, 7> name{"tumble"};
+    static std::array<char*, 2> arguments{name.data(), nullptr};
+    static int count = 1;
+
+    const auto previousHandler = qInstallMessageHandler(onMessage);
+    std::signal(SIGALRM, onAlarm);
+    ::alarm(longestWait);
+    QGuiApplication::setDesktopFileName(QStringLiteral("tumble"));
+    application_.emplace(count, arguments.data());
+    ::alarm(0);
+    std::signal(SIGALRM, SIG_DFL);
+    qInstallMessageHandler(previousHandler);
+}
+
+} // namespace tumble

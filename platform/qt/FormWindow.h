@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/qt/PaintingReplay.h"
+
+#include <QIcon>
+#include <QWidget>
+
+#include <functional>
+#include <map>
+
+class QAbstractButton;
+
+namespace tumble {
+
+class SurfaceWidget;
+
+/// Shows a form as a window of its own and reports to the form's controls what the player does.
+class FormWindow : public QWidget {
+public:
+    FormWindow(Form& form, const QIcon& icon, PictureCache& pictures);
+
+    /// Shows a control's new state.
+    void changed(const Control& control);
+    /// The widget of a picture box of the form.
+    SurfaceWidget* surface(const PictureBox& box) const;
+    /// Brings what was painted to the screen at once.
+    void showPaintings();
+    /// From now on the form, which may be gone, hears no more; the window goes when its running handler has returned.
+    void retire();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void raise(const Handler& handler);
+    void buildControls(const Container& container, QWidget* parent);
+    QWidget* build(PictureBox& box, QWidget* parent);
+    QWidget* build(Label& label, QWidget* parent);
+    QWidget* build(CommandButton& button, QWidget* parent);
+    QWidget* build(OptionButton& option, QWidget* parent);
+    QWidget* build(Frame& frame, QWidget* parent);
+    QWidget* build(Slider& slider, QWidget* parent);
+    void setTabOrderByIndex();
+
+    Form& form_;
+    QIcon icon_;
+    PictureCache& pictures_;
+    bool retired_ = false;
+    QAbstractButton* enterButton_ = nullptr;
+    QAbstractButton* escButton_ = nullptr;
+    std::map<const PictureBox*, SurfaceWidget*> surfaces_;
+    std::map<const Control*, std::function<void()>> updates_;
+    std::multimap<int, QWidget*> byTabIndex_;
+};
+
+} // namespace tumble

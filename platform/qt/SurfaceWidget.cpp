@@ -1,0 +1,138 @@
+#include "platform/qt/SurfaceWidget.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <utility>
+
+namespace tumble {
+
+namespace {
+
+/// The frame around a picture box that has the keyboard's attention. It lies outside, so that it covers no card.
+class FocusRing : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
+
+constexpr int ringWidth = 3; // logical pixels, with a pixel of space inside
+
+int buttonCode(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::RightButton:
+        return 2;
+    case Qt::MiddleButton:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+std::int16_t heldButtons(Qt::MouseButtons held) {
+    int sum = 0;
+    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        sum += held.testFlag(button) ? buttonCode(button) : 0;
+    }
+    return static_cast<std::int16_t>(sum);
+}
+
+std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
+    const int shift = keys.testFlag(Qt::ShiftModifier) ? 1 : 0;
+    const int control = keys.testFlag(Qt::ControlModifier) ? 2 : 0;
+    const int alt = keys.testFlag(Qt::AltModifier) ? 4 : 0;
+    return static_cast<std::int16_t>(shift + control + alt);
+}
+
+} // namespace
+
+SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise,
+                             QWidget* parent)
+    : QWidget(parent), box_(box), raise_(std::move(raise)), replay_(pictures), focusRing_(new FocusRing(parent)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(box.MouseMove != nullptr);
+    setFocusPolicy(Qt::TabFocus);
+    focusRing_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    focusRing_->hide();
+}
+
+void SurfaceWidget::changed(const Rect& place) {
+    const QRect pixels = toQRect(scale().pixels(place));
+    outOfDate_ |= pixels;
+    // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
+    const double ratio = devicePixelRatioF();
+    update(QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1));
+}
+
+void SurfaceWidget::showNow() {
+    if (!outOfDate_.isEmpty()) {
+        repaint();
+    }
+}
+
+void SurfaceWidget::bringImageUpToDate() {
+    const PixelRect all = scale().pixels(box_.painting().bounds());
+    if (image_.size() != QSize(all.width(), all.height())) {
+        image_ = QImage(all.width(), all.height(), QImage::Format_RGB32);
+        outOfDate_ = toQRect(all);
+    }
+    if (const QRect part = outOfDate_.intersected(toQRect(all)); !part.isEmpty()) {
+        replay_.replay(box_.painting(), scale(), part, image_);
+    }
+    outOfDate_ = {};
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
+    bringImageUpToDate();
+    QPainter painter(this);
+    // In device pixels, so that a fractional ratio resamples nothing.
+    const double ratio = devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.drawImage(0, 0, image_);
+}
+
+void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+    report(box_.MouseDown, buttonCode(event->button()), *event);
+}
+
+void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
+    report(box_.MouseMove, heldButtons(event->buttons()), *event);
+}
+
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+    report(box_.MouseUp, buttonCode(event->button()), *event);
+}
+
+void SurfaceWidget::report(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event) {
+    if (handler == nullptr) {
+        return;
+    }
+    const QPointF pixel = event.position() * devicePixelRatioF();
+    const float X = scale().twips(pixel.x());
+    const float Y = scale().twips(pixel.y());
+    raise_([&] { handler(static_cast<std::int16_t>(button), shiftKeys(event.modifiers()), X, Y); });
+}
+
+void SurfaceWidget::focusInEvent(QFocusEvent* event) {
+    const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    focusRing_->setGeometry(geometry().adjusted(-ringWidth, -ringWidth, ringWidth, ringWidth));
+    focusRing_->setVisible(byKeyboard);
+    focusRing_->stackUnder(this);
+}
+
+void SurfaceWidget::focusOutEvent(QFocusEvent* /*event*/) {
+    focusRing_->hide();
+}
+
+} // namespace tumble
