@@ -22,18 +22,18 @@ void CardTracker::addExistingCard(std::shared_ptr<Card> crd) {
 
 void CardTracker::addCard(CardRank rank, CardSuit suit, float X, float Y, CardSize size, FaceDirection faceDir,
                           BackStyle backStyle) {
-    auto crd = std::make_shared<Card>();
+    const auto crd = std::make_shared<Card>();
     crd->setRankAndSuit(rank, suit);
-    addNewCard(std::move(crd), X, Y, size, faceDir, backStyle);
+    addNewCard(crd, X, Y, size, faceDir, backStyle);
 }
 
 void CardTracker::addJoker(float X, float Y, CardSize size, FaceDirection faceDir, BackStyle backStyle) {
-    auto crd = std::make_shared<Card>();
+    const auto crd = std::make_shared<Card>();
     crd->setAsJoker();
-    addNewCard(std::move(crd), X, Y, size, faceDir, backStyle);
+    addNewCard(crd, X, Y, size, faceDir, backStyle);
 }
 
-void CardTracker::addNewCard(std::shared_ptr<Card> crd, float X, float Y, CardSize size, FaceDirection faceDir,
+void CardTracker::addNewCard(const std::shared_ptr<Card>& crd, float X, float Y, CardSize size, FaceDirection faceDir,
                              BackStyle backStyle) {
     crd->setAttributes(picture_, size, faceDir, vsCard, backStyle);
     crd->setPosition(X, Y, paNear, paNear);

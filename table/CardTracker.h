@@ -49,7 +49,7 @@ public:
     std::string checkSanity() const;
 
 private:
-    void addNewCard(std::shared_ptr<Card> crd, float X, float Y, CardSize size, FaceDirection faceDir,
+    void addNewCard(const std::shared_ptr<Card>& crd, float X, float Y, CardSize size, FaceDirection faceDir,
                     BackStyle backStyle);
     void takeCurCardOut();
     void layCurCardOnTop();

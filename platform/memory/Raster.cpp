@@ -29,13 +29,17 @@ void Raster::paint(const PaintItem& item) {
     }
 }
 
+std::size_t Raster::index(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width()) + static_cast<std::size_t>(x);
+}
+
 Colour Raster::at(int x, int y) const {
-    return pixels_.at(static_cast<std::size_t>(y * width() + x));
+    return pixels_.at(index(x, y));
 }
 
 void Raster::set(int x, int y, const PixelRect& clip, Colour colour) {
     if (x >= clip.left && x <= clip.right && y >= clip.top && y <= clip.bottom) {
-        pixels_[static_cast<std::size_t>(y * width() + x)] = colour;
+        pixels_[index(x, y)] = colour;
     }
 }
 

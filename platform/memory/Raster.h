@@ -25,11 +25,12 @@ public:
     friend bool operator==(const Raster& one, const Raster& other) { return one.pixels_ == other.pixels_; }
 
 private:
+    std::size_t index(int x, int y) const;
     void set(int x, int y, const PixelRect& clip, Colour colour);
     void fill(const PixelRect& rect, const PixelRect& clip, Colour colour);
     void draw(const PictureOperation& picture, const PixelRect& place, const PixelRect& clip);
-    void draw(const FillOperation& fill, const PixelRect& place, const PixelRect& clip);
-    void draw(const BoxOperation& box, const PixelRect& place, const PixelRect& clip);
+    void draw(const FillOperation& operation, const PixelRect& place, const PixelRect& clip);
+    void draw(const BoxOperation& operation, const PixelRect& place, const PixelRect& clip);
     void draw(const LineOperation& line, const PixelRect& place, const PixelRect& clip);
     void draw(const CircleOperation& circle, const PixelRect& place, const PixelRect& clip);
 

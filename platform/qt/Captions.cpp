@@ -31,7 +31,7 @@ bool fits(const QFont& font, const QString& caption, QSize room, Wrap wrap) {
 QFont captionFont(const Font& wanted, const QString& caption, QSize room, Wrap wrap) {
     QFont font = QApplication::font();
     font.setBold(wanted.bold);
-    double points = static_cast<double>(wanted.points);
+    auto points = static_cast<double>(wanted.points);
     setPoints(font, points);
     while (!fits(font, caption, room, wrap) && points > leastPoints) {
         points = std::max(points - pointStep, leastPoints);

@@ -25,7 +25,8 @@ void onAlarm(int /*signal*/) {
     giveUp("tumble: the display does not answer\n");
 }
 
-// The toolkit tells its troubles with the display in several lines and then aborts.
+// The toolkit tells its troubles with the display in several lines, and then aborts where it finds none. What becomes
+// of a display at the session's end is no news to anybody.
 void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type == QtFatalMsg) {
         giveUp("tumble: there is no display to open a window on\n");
@@ -39,14 +40,12 @@ Display::Display() {
     static std::array<char*, 2> arguments{name.data(), nullptr};
     static int count = 1;
 
-    const auto previousHandler = qInstallMessageHandler(onMessage);
-    std::signal(SIGALRM, onAlarm);
+    qInstallMessageHandler(onMessage);
+    static_cast<void>(std::signal(SIGALRM, onAlarm));
     ::alarm(longestWait);
     QGuiApplication::setDesktopFileName(QStringLiteral("tumble"));
     application_.emplace(count, arguments.data());
     ::alarm(0);
-    std::signal(SIGALRM, SIG_DFL);
-    qInstallMessageHandler(previousHandler);
 }
 
 } // namespace tumble

@@ -169,6 +169,8 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
         widget->setFont(captionFont({}, caption, widget->captionRoom().size(), Wrap::Words));
         widget->setText(caption);
         widget->setChecked(option.Value());
+        // Tab comes to the selected choice of a frame, the arrows go on from there.
+        widget->setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
     });
     connect(widget, &QRadioButton::toggled, this, [this, &option](bool selected) {
         if (selected) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
-#include "platform/qt/PaintingReplay.h"
+#include "platform/qt/PictureCache.h"
 
 #include <QIcon>
 #include <QWidget>

@@ -6,23 +6,39 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QWindow>
 
-#include <cstdio>
+#include <array>
 #include <utility>
 
 namespace tumble {
 
 namespace {
 
+constexpr std::array iconSizes{16, 24, 32, 48, 64, 128};
 constexpr int longestWaitForScreen = 1000; // milliseconds
+constexpr Qt::WindowFlags dialogFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+/// Widens a message box so far that its caption fits between the window manager's buttons.
+void makeRoomForCaption(QMessageBox& box) {
+    constexpr int buttons = 120; // logical pixels
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + buttons;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
 
 } // namespace
 
-QtDesktop::QtDesktop(Application application) : Desktop(std::move(application)) {
-    icon_ = QIcon(QPixmap::fromImage(pictures_.decoded(App().Icon)));
+QtDesktop::QtDesktop(Application application, PicturePainter painter)
+    : Desktop(std::move(application)), pictures_(std::move(painter)) {
+    for (const int size : iconSizes) {
+        icon_.addPixmap(QPixmap::fromImage(pictures_.image(App().Icon, {size, size})));
+    }
     QApplication::setQuitOnLastWindowClosed(false);
     desktop(this);
 }
@@ -35,7 +51,7 @@ QtDesktop::~QtDesktop() {
     desktop(nullptr);
 }
 
-void QtDesktop::run() {
+void QtDesktop::run() const {
     if (!ended_) {
         QApplication::exec();
     }
@@ -50,7 +66,7 @@ void QtDesktop::Show(Form& form, Modality modality) {
         window->show();
         return;
     }
-    window->setWindowFlag(Qt::Dialog);
+    window->setWindowFlags(dialogFlags);
     window->setWindowModality(Qt::ApplicationModal);
     window->show();
     QEventLoop untilUnloaded;
@@ -100,6 +116,8 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
+    box.setWindowFlags(dialogFlags);
+    makeRoomForCaption(box);
     box.exec();
 }
 

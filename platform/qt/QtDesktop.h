@@ -2,7 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/Random.h"
-#include "platform/qt/PaintingReplay.h"
+#include "platform/qt/PictureCache.h"
 
 #include <QIcon>
 #include <QPointer>
@@ -17,8 +17,8 @@ class FormWindow;
 /// The real desktop, on Qt Widgets. Needs a QApplication that outlives it.
 class QtDesktop : public Desktop {
 public:
-    /// Puts itself in use, until it goes.
-    explicit QtDesktop(Application application);
+    /// Puts itself in use, until it goes. Without a painter, pictures are scaled from their bytes.
+    explicit QtDesktop(Application application, PicturePainter painter = {});
     QtDesktop(const QtDesktop&) = delete;
     QtDesktop& operator=(const QtDesktop&) = delete;
     QtDesktop(QtDesktop&&) = delete;
@@ -26,7 +26,7 @@ public:
     ~QtDesktop() override;
 
     /// Handles events until the application ends.
-    void run();
+    void run() const;
 
     void Show(Form& form, Modality modality) override;
     void Hide(Form& form) override;

@@ -57,7 +57,7 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise,
                              QWidget* parent)
-    : QWidget(parent), box_(box), raise_(std::move(raise)), replay_(pictures), focusRing_(new FocusRing(parent)) {
+    : QWidget(parent), box_(box), raise_(std::move(raise)), pictures_(pictures), focusRing_(new FocusRing(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.MouseMove != nullptr);
     setFocusPolicy(Qt::TabFocus);
@@ -88,7 +88,7 @@ void SurfaceWidget::bringImageUpToDate() {
         outOfDate_ = toQRect(all);
     }
     if (const QRect part = outOfDate_.intersected(toQRect(all)); !part.isEmpty()) {
-        replay_.replay(box_.painting(), scale(), part, image_);
+        replay(box_.painting().ground(), box_.painting().items(), scale(), part, pictures_, image_);
     }
     outOfDate_ = {};
 }

@@ -37,7 +37,7 @@ private:
 
     PictureBox& box_;
     std::function<void(const Handler&)> raise_;
-    PaintingReplay replay_;
+    PictureCache& pictures_;
     QImage image_;    // in device pixels
     QRect outOfDate_; // of the image
     QWidget* focusRing_;

@@ -1,0 +1,46 @@
+#include "art/Ink.h"
+
+namespace tumble {
+
+namespace {
+
+/// A mixture of black, red, yellow and white in the given parts.
+QRgb mixture(int blacks, int reds, int yellows, int whites) {
+    const int parts = blacks + reds + yellows + whites;
+    const auto mixed = [&](int (*channel)(QRgb)) {
+        return (reds * channel(red) + yellows * channel(yellow) + whites * channel(white) + parts / 2) / parts;
+    };
+    return qRgb(mixed(qRed), mixed(qGreen), mixed(qBlue));
+}
+
+} // namespace
+
+std::vector<QRgb> faceColours() {
+    constexpr int parts = 9;
+    constexpr int fineParts = 19;
+    std::vector<QRgb> colours;
+    for (int blacks = 0; blacks <= parts; ++blacks) {
+        for (int reds = 0; blacks + reds <= parts; ++reds) {
+            for (int yellows = 0; blacks + reds + yellows <= parts; ++yellows) {
+                colours.push_back(mixture(blacks, reds, yellows, parts - blacks - reds - yellows));
+            }
+        }
+    }
+    for (int ink = 1; ink < fineParts; ++ink) {
+        colours.push_back(mixture(ink, 0, 0, fineParts - ink));
+        colours.push_back(mixture(0, ink, 0, fineParts - ink));
+    }
+    return colours;
+}
+
+std::vector<QRgb> suitColours() {
+    constexpr int parts = 7;
+    std::vector<QRgb> colours = {white};
+    for (int ink = 1; ink <= parts; ++ink) {
+        colours.push_back(mixture(ink, 0, 0, parts - ink));
+        colours.push_back(mixture(0, ink, 0, parts - ink));
+    }
+    return colours;
+}
+
+} // namespace tumble

@@ -1,0 +1,154 @@
+#include "platform/Random.h"
+#include "tests/Table.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tumble {
+namespace {
+
+TEST(MainModTest, MainShowsTheOptionsAndPlayOpensTheTable) {
+    MemoryDesktop desktop(application());
+    MainMod program;
+    program.Main();
+    EXPECT_EQ(program.tableTracker, nullptr);
+    program.options().cmdPlay.Click();
+    EXPECT_EQ(desktop.journal(),
+              (std::vector<std::string>{"show Tumble Options", "hide Tumble Options", "unload Tumble Options",
+                                        "show Tumble", "pointer 11", "refresh Tumble", "pointer 0"}));
+}
+
+TEST(MainModTest, SpreadDealsThePackAndLaysThePilesOverIt) {
+    Table table;
+    MainMod& program = table.program;
+    program.startGame(csNormal, bsLast, fdFaceDown, dtStandard, soNatural, lsSpread);
+    std::string expected;
+    for (int i = 0; i < 52; ++i) {
+        expected += "CardBack4 " + std::to_string(1300 + 150 * (i % 36)) + (i < 36 ? ",1000; " : ",2000; ");
+    }
+    expected += "green 0,0; green 7712,0; green 0,4027; green 7712,4027";
+    EXPECT_EQ(table.painted(), expected);
+    EXPECT_EQ(table.nameAt({7712, 1500}), "Pile (empty)"); // over a dealt card
+
+    const std::vector<std::pair<Point, CardPack*>> corners{{{0, 0}, program.pileTopLeft.get()},
+                                                           {{8944, 0}, program.pileTopRight.get()},
+                                                           {{0, 5944}, program.pileBottomLeft.get()},
+                                                           {{8944, 5944}, program.pileBottomRight.get()}};
+    for (const auto& [at, pile] : corners) {
+        EXPECT_EQ(table.tracker().identifyCard(at.x, at.y)->pack().get(), pile);
+        EXPECT_NE(pile->accepter(), nullptr);
+        EXPECT_EQ(pile->accepter(), program.pileTopLeft->accepter());
+    }
+}
+
+TEST(MainModTest, AnyOtherLayoutLaysThePackInTheMiddle) {
+    for (const int layout : {-1, 1}) {
+        Table table;
+        table.program.startGame(csMedium, bsFirst, fdFaceUp, dt24Card, soSuitRankDesc,
+                                static_cast<LayoutStyle>(layout));
+        EXPECT_EQ(table.painted(), "NineDiamonds 4057.5,2307.5; edge of 24 4057.5,2307.5; green 0,0; green 8045,0; "
+                                   "green 0,4545; green 8045,4545");
+        EXPECT_EQ(table.tracker().identifyCard(4500, 3000)->pack()->accepter(), nullptr);
+    }
+}
+
+TEST(MainModTest, InvalidSettingsAreReportedAndTheGameGoesOn) {
+    Table table;
+    const frmTumble& window = table.program.table();
+    table.desktop.whileMessageIsOpen = [&] { EXPECT_EQ(window.MousePointer(), Pointer::Hourglass); };
+    table.program.startGame(static_cast<CardSize>(3), bsFirst, fdFaceUp, static_cast<DeckType>(9),
+                            static_cast<SortOrder>(6), lsSpread);
+    EXPECT_EQ(table.messages(), "Tumble: Invalid Deck Type!; Tumble: Invalid Deck Type!; "
+                                "Tumble: Invalid pack sorting order!; Tumble: Invalid card size!; Tumble: Invalid card "
+                                "size!; Tumble: Invalid card size!; Tumble: Invalid card size!");
+    EXPECT_EQ(window.MousePointer(), Pointer::Default);
+    table.drag({10, 10}, {100, 100});
+    EXPECT_EQ(table.label(), "None");
+}
+
+/// Drags the card at the place exactly onto the corner pile of its suit, a joker onto the first.
+void play(Table& table, Point at) {
+    static const std::vector<Point> corners{{0, 0}, {8216, 0}, {0, 4811}, {8216, 4811}};
+    const auto crd = table.tracker().identifyCard(at.x, at.y);
+    const Point corner = corners.at(static_cast<std::size_t>(crd->suit()));
+    table.drag(at, {corner.x + at.x - static_cast<float>(crd->x1()), corner.y + at.y - static_cast<float>(crd->y1())});
+}
+
+TEST(GameTest, EveryDeckIsPlayedToTheWin) {
+    for (int dckType = dtStandard; dckType <= dtBigPinochle; ++dckType) {
+        SCOPED_TRACE(dckType);
+        Table table;
+        table.program.startGame(csSmall, bsFirst, fdFaceUp, static_cast<DeckType>(dckType), soNatural, lsSpread);
+        const auto deck = CardConstants::deckMakeUp(static_cast<DeckType>(dckType)).value_or(DeckMakeUp());
+        const int ofCopy = (deck.cards() - deck.jokers) / deck.copies;
+        for (int card = 0; card < deck.cards(); ++card) {
+            EXPECT_EQ(table.messages(), "") << card;
+            const int afterJokers = card - deck.jokers; // the copies of a card one after the other
+            const int dealt =
+                afterJokers < 0 ? card : deck.jokers + afterJokers / deck.copies + afterJokers % deck.copies * ofCopy;
+            play(table, {1310 + 150 * static_cast<float>(dealt % 39), 1010 + 1000 * static_cast<float>(dealt / 39)});
+        }
+        EXPECT_EQ(table.messages(), "YOU WIN: CONGRATULATIONS!");
+        table.drag({8300, 4900}, {4000, 3000}); // the last card off its pile and on again
+        EXPECT_EQ(table.messages(), "");
+        table.drag({4000, 3000}, {8300, 4900});
+        EXPECT_EQ(table.messages(), "YOU WIN: CONGRATULATIONS!");
+    }
+}
+
+TEST(TableWindowTest, LabelNamesTheCardUnderTheMouse) {
+    Table table;
+    table.lay(rkFive, suHeart, 100, 100);
+    table.layPile(3000, 100, {makeCard(rkSix, suSpade)});
+    const std::vector<std::pair<Point, std::string>> cases{
+        {{110, 110}, "Five of Hearts"}, {{5000, 5000}, "None"}, {{3010, 110}, "Pile (Six of Spades)"}};
+    for (const auto& [at, name] : cases) {
+        table.move(at);
+        EXPECT_EQ(table.label(), name);
+        table.move({8000, 5000});
+        table.press(at, 4);
+        EXPECT_EQ(table.label(), name);
+        EXPECT_FALSE(table.tracker().moveInProg());
+    }
+    table.press({110, 110});
+    table.move({5010, 3010});
+    table.release({3010, 5010});
+    EXPECT_EQ(table.label(), "Five of Hearts"); // until the mouse moves again
+}
+
+TEST(TableWindowTest, RightPressFlipsAndDragsNothing) {
+    Table table;
+    table.lay(rkFive, suHeart, 100, 100);
+    table.painted();
+    table.press({110, 110}, 2);
+    EXPECT_EQ(table.label(), "Five of Hearts");
+    EXPECT_FALSE(table.tracker().moveInProg());
+    table.release({200, 200});
+    EXPECT_EQ(table.painted(), "CardBack1 100,100");
+}
+
+TEST(TableWindowTest, HelpIsWordForWord) {
+    Table table;
+    table.program.table().cmdHelp.Click();
+    EXPECT_EQ(table.messages(), "Tumble Instructions: "
+                                "Drag each of the cards to one of the corner piles. Each pile must\r\n"
+                                "contain a different suit, and the cards must be built up from\r\n"
+                                "lowest card (Two) to highest card (Ace).  Right-click on a card to\r\n"
+                                "flip it (you cannot flip piles).");
+}
+
+TEST(ClockRandomTest, ValuesFillTheRangeFromZeroToBelowOne) {
+    ClockRandom random;
+    std::vector<float> values(2000);
+    std::generate(values.begin(), values.end(), [&] { return random.Rnd(); });
+    const auto [least, most] = std::minmax_element(values.begin(), values.end());
+    EXPECT_TRUE(*least >= 0 && *least < 0.01F && *most > 0.99F && *most < 1);
+    ClockRandom seeded;
+    seeded.Randomize();
+    EXPECT_FALSE(std::all_of(values.begin(), values.end(), [&](float value) { return value == seeded.Rnd(); }));
+}
+
+} // namespace
+} // namespace tumble

@@ -1,0 +1,195 @@
+#include "platform/Picture.h"
+#include "platform/memory/Raster.h"
+#include "tests/Table.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <limits>
+#include <random>
+#include <tuple>
+
+namespace tumble {
+namespace {
+
+constexpr Colour red = 0x0000FF;
+constexpr Colour blue = 0xFF0000;
+constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+
+const Picture& card() {
+    static const Picture picture("card", {});
+    return picture;
+}
+
+PaintItem fill(const Rect& place, Colour colour) {
+    return {.place = place, .operations = {FillOperation{place, colour}}};
+}
+PaintItem erasure(const Rect& place) {
+    return fill(place, tableGreen);
+}
+
+TEST(PaintingTest, ListsWhatStillShows) {
+    const PaintItem lower = fill({100, 100, 199, 299}, red);
+    const Rect wide{90, 90, 209, 309};
+    const std::vector<std::pair<std::vector<PaintItem>, std::string>> cases{
+        // What covers another item lets it go.
+        {{lower, fill({100, 100, 199, 299}, blue)}, "blue 100,100"},
+        {{lower, {wide, {PictureOperation{&card(), wide}, BoxOperation{wide, 0}}}}, "card 90,90"},
+        {{lower, fill({101, 100, 199, 299}, blue)}, "red 100,100; blue 101,100"},
+        {{lower, fill({100, 101, 199, 299}, blue)}, "red 100,100; blue 100,101"},
+        {{lower, fill({100, 100, 198, 299}, blue)}, "red 100,100; blue 100,100"},
+        {{lower, fill({100, 100, 199, 298}, blue)}, "red 100,100; blue 100,100"},
+        {{lower, {wide, {BoxOperation{wide, 0}, FillOperation{wide, 0}}}}, "red 100,100; outline 90,90"},
+        {{lower, {wide, {FillOperation{{91, 90, 209, 309}, blue}}}}, "red 100,100; blue 90,90"},
+        {{lower, {wide, {PictureOperation{&card(), {90, 90, 209, 308}}}}}, "red 100,100; card 90,90"},
+        {{lower, {wide, {}}}, "red 100,100; nothing 90,90"},
+        {{lower, fill({0, 0, 9, 9}, red), lower, fill({500, 0, 509, 9}, blue), lower},
+         "red 0,0; blue 500,0; red 100,100"},
+        // An erasure shows only over what it erases in part.
+        {{erasure({100, 100, 199, 299}), fill({150, 150, 250, 250}, red)}, "red 150,150"},
+        {{lower, erasure({100, 100, 199, 299})}, ""},
+        {{lower, erasure({199, 299, 400, 400})}, "red 100,100; ground 199,299"},
+        {{{wide, {FillOperation{wide, tableGreen}, BoxOperation{wide, 0}}}}, "ground 90,90"},
+        {{lower, erasure({214, 100, 300, 299})}, "red 100,100; ground 214,100"}, // may share a pixel
+        {{lower, erasure({215, 100, 300, 299})}, "red 100,100"},
+        {{lower, erasure({0, 100, 85, 299})}, "red 100,100; ground 0,100"},
+        {{lower, erasure({0, 100, 84, 299})}, "red 100,100"},
+        {{lower, erasure({100, 0, 199, 85})}, "red 100,100; ground 100,0"},
+        {{lower, erasure({100, 0, 199, 84})}, "red 100,100"},
+        {{lower, erasure({100, 314, 199, 400})}, "red 100,100; ground 100,314"},
+        {{lower, erasure({100, 315, 199, 400})}, "red 100,100"},
+        {{lower, erasure({190, 100, 300, 299}), erasure({295, 100, 400, 299}), fill({500, 0, 509, 9}, red),
+          erasure({100, 100, 199, 299})},
+         "red 500,0"},
+        // What has no place on the surface is not there.
+        {{fill({100, 100, 99, 200}, red), fill({100, 100, 200, 99}, red)}, ""},
+        {{fill({nan, 0, 9, 9}, red), fill({0, 0, 9, nan}, red)}, ""},
+        {{fill({100, 100, 100, 100}, red)}, "red 100,100"},
+        {{fill({-99, 0, -16, 9}, red), fill({3015, 0, 3099, 9}, red), fill({0, 2015, 9, 2099}, red)}, ""},
+        {{fill({-99, 0, -15, 9}, red), fill({3014, 0, 3099, 9}, red), fill({0, 2014, 9, 2099}, red)},
+         "red -99,0; red 3014,0; red 0,2014"}};
+    for (const auto& [added, shown] : cases) {
+        Painting painting(3000, 2000, tableGreen);
+        for (const PaintItem& item : added) {
+            painting.add(item);
+        }
+        EXPECT_EQ(inWords(painting.items()), shown);
+    }
+}
+
+TEST(PaintingTest, ListShowsAGameAsEverythingPaintedInItAndStaysShort) {
+    Table table;
+    table.program.startGame(csSmall, bsFirst, fdFaceUp, dt24Card, soNatural, lsSpread);
+    std::mt19937 random(11); // NOLINT(cert-msc51-cpp): the same numbers in every run
+    const auto somewhere = [&] {
+        return Point{static_cast<float>(random() % 8000), static_cast<float>(random() % 5000)};
+    };
+    for (int turn = 0; turn < 24; ++turn) {
+        table.press({1310 + 150 * static_cast<float>(turn), 1010}, turn % 5 == 4 ? 2 : 1);
+        table.move(somewhere());
+        const Point to = turn % 3 == 0 ? Point{100, 100} : somewhere();
+        table.move(to);
+        EXPECT_LE(table.picture().painting().items().size(), 2U * 28 + 8);
+        if (turn < 23) {
+            table.release(to);
+        }
+    }
+    for (const double factor : {1.0, 1.25, 1.5, 2.0, 2.5}) {
+        Raster list(table.picture().painting(), PixelScale(factor));
+        Raster everything = list;
+        list.paint(table.picture().painting().items());
+        everything.paint(table.desktop.log(table.picture()));
+        EXPECT_TRUE(list == everything) << factor;
+    }
+}
+
+TEST(DrawingSurfaceTest, RecordsWhatTheBrushPaints) {
+    DrawingSurface surface(600, 400, tableGreen);
+    surface.ForeColor(blue);
+    {
+        Brush brush = surface.Paint({10, 20, 30, 40});
+        brush.Line({11, 21}, red); // from the place's corner
+        brush.Line({1, 2}, {3, 4}, blue);
+        brush.Line({5, 6}, red);
+        brush.Line({10, 20, 30, 40}, std::nullopt, BoxFill::Outline);
+        brush.Line({10, 20, 30, 40}, red, BoxFill::Filled);
+        brush.Circle({15, 25}, 5, red);
+        brush.PaintPicture(card(), 10, 20, 7, 9);
+        EXPECT_TRUE(surface.painting().items().empty());
+    }
+    ASSERT_EQ(surface.painting().items().size(), 1U);
+    EXPECT_EQ(surface.painting().items()[0].place, (Rect{10, 20, 30, 40}));
+    EXPECT_EQ(inFull(surface.painting().items()[0]),
+              "line 10,20 11,21 red; line 1,2 3,4 blue; line 3,4 5,6 red; box 10,20 30,40 blue; "
+              "fill 10,20 30,40 red; circle 15,25 5 red; card 10,20 16,28");
+    EXPECT_EQ(surface.painting().bounds(), (Rect{0, 0, 599, 399}));
+}
+
+TEST(DrawingSurfaceTest, ClearsToTheBackColorOfThatMoment) {
+    DrawingSurface surface(600, 400, tableGreen);
+    surface.BackColor(red);
+    const auto paint = [&] { surface.Paint({0, 0, 9, 9}).Line({0, 0, 9, 9}, red, BoxFill::Filled); };
+    paint();
+    EXPECT_EQ(inWords(surface.painting().items()), "red 0,0");
+    surface.Cls();
+    EXPECT_EQ(surface.painting().ground(), red);
+    paint();
+    EXPECT_EQ(inWords(surface.painting().items()), "");
+}
+
+TEST(PixelScaleTest, PixelIsTheOneInWhichThePlaceLies) {
+    const std::vector<std::tuple<double, float, int>> cases{
+        {1, 14.5F, 0},     {1, 15, 1},     {1, -0.5F, -1},      {1.25, 11.5F, 0},        {1.25, 12, 1}, {1.5, 10, 1},
+        {2.5, 9015, 1502}, {1.1, 150, 11}, {1, 1e30F, 1 << 20}, {2, -1e30F, -(1 << 20)}, {1, nan, 0}};
+    for (const auto& [factor, twips, pixel] : cases) {
+        EXPECT_EQ(PixelScale(factor).pixel(twips), pixel) << factor << " " << twips;
+    }
+    EXPECT_EQ(PixelScale(2).pixels({15, 30, 52.4F, 60}), (PixelRect{2, 4, 6, 8}));
+    EXPECT_TRUE(PixelScale(2).pixels({15, 30, 14, 60}).empty());
+    EXPECT_TRUE(PixelScale(2).pixels({15, nan, 45, 60}).empty());
+}
+
+TEST(PixelScaleTest, FactorIsBroughtIntoReasonAndPenIsTheNearestWholeTiesDown) {
+    const std::vector<std::tuple<double, double, int>> cases{
+        {-2, 1, 1}, {0.9, 1, 1}, {nan, 1, 1}, {1, 1, 1}, {1.5, 1.5, 1}, {1.51, 1.51, 2}, {2.5, 2.5, 2}, {17, 16, 16}};
+    for (const auto& [given, factor, pen] : cases) {
+        EXPECT_EQ(PixelScale(given).factor(), factor);
+        EXPECT_EQ(PixelScale(given).pen(), pen) << given;
+    }
+}
+
+TEST(PixelScaleTest, StrokeStaysInsideItsItem) {
+    const std::vector<std::tuple<double, Point, Point, PixelRect, PixelRect>> cases{
+        {1, {30, 45}, {90, 45}, {0, 0, 50, 50}, {2, 3, 6, 3}},
+        {3, {50, 50}, {50, 100}, {0, 0, 50, 50}, {9, 9, 11, 21}},
+        {3, {100, 50}, {50, 50}, {0, 0, 50, 50}, {9, 9, 21, 11}},
+        {2, {60, 60}, {60, 60}, {0, 0, 50, 50}, {7, 7, 8, 8}},
+        {3, {10, 10}, {260, 10}, {2, 2, 50, 50}, {2, 2, 50, 4}},     // moved in from the left and the top
+        {3, {260, 260}, {260, 40}, {2, 2, 50, 50}, {48, 7, 50, 50}}, // and from the right and the bottom
+        {3, {10, 10}, {10, 260}, {2, 2, 3, 50}, {2, 2, 3, 50}}};     // an item narrower than the pen
+    for (const auto& [factor, from, to, item, stroke] : cases) {
+        EXPECT_EQ(PixelScale(factor).stroke(from, to, item), stroke) << from.x << "," << from.y;
+    }
+}
+
+TEST(PixelScaleTest, MouseIsAtTheWholeTwipWhereItsPixelBegins) {
+    const std::vector<std::tuple<double, double, float>> cases{{1, 7, 105},   {1.25, 7, 84},        {2, 7, 52},
+                                                               {2.5, -1, -6}, {1, 0.999999999, 15}, {1, 0.9999, 14}};
+    for (const auto& [factor, pixel, twips] : cases) {
+        EXPECT_EQ(PixelScale(factor).twips(pixel), twips) << factor << " " << pixel;
+    }
+}
+
+TEST(PixelRectTest, SidesOfABoxLieInsideIt) {
+    EXPECT_EQ(boxSides({10, 20, 30, 40}, 3),
+              (std::array<PixelRect, 4>{{{10, 20, 30, 22}, {10, 38, 30, 40}, {10, 20, 12, 40}, {28, 20, 30, 40}}}));
+    const PixelRect small{0, 0, 1, 1};
+    EXPECT_EQ(boxSides(small, 3), (std::array{small, small, small, small}));
+    EXPECT_EQ((PixelRect{10, 20, 30, 40}.intersected({15, 10, 40, 35})), (PixelRect{15, 20, 30, 35}));
+    EXPECT_EQ((PixelRect{10, 20, 30, 40}.intersected({0, 25, 20, 50})), (PixelRect{10, 25, 20, 40}));
+    EXPECT_FALSE((PixelRect{5, 5, 5, 5}.empty()));
+    EXPECT_TRUE((PixelRect{5, 5, 5, 4}.empty()));
+}
+
+} // namespace
+} // namespace tumble

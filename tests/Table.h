@@ -1,0 +1,61 @@
+#pragma once
+
+#include "game/MainMod.h"
+#include "platform/memory/MemoryDesktop.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tumble {
+
+/// What an item shows and where its place begins: "AceSpades 100,200", "edge of 3 0,0", "marked yellow 0,8.5".
+std::string inWords(const PaintItem& item);
+/// Everything an item paints: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
+std::string inFull(const PaintItem& item);
+/// What the items show, parted by semicolons.
+std::string inWords(const std::vector<PaintItem>& items);
+std::string inWords(float number);
+
+using Cards = std::vector<std::shared_ptr<Card>>;
+std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit);
+std::shared_ptr<Card> makeJoker();
+
+/// The program on a desktop in memory, its table open and empty until a game is started or cards are laid on it.
+class Table {
+public:
+    Table();
+
+    CardTracker& tracker() { return *program.tableTracker; }
+    PictureBox& picture() { return program.table().picTable; }
+    const std::string& label() { return program.table().lblCurrentCard.Caption(); }
+    std::string nameAt(Point at);
+
+    /// Lays a small card, face up, with its top left corner at the place.
+    void lay(CardRank rank, CardSuit suit, float X, float Y);
+    /// Lays a pile of small cards, the bottom one first, with its top left corner at the place.
+    std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
+                                      const std::shared_ptr<PileAccepter>& accepter = nullptr);
+
+    void press(Point at, std::int16_t button = 1) { picture().MouseDown(button, 0, at.x, at.y); }
+    void move(Point to) { picture().MouseMove(0, 0, to.x, to.y); }
+    void release(Point at) { picture().MouseUp(1, 0, at.x, at.y); }
+    void drag(Point from, Point to);
+
+    /// What was painted on the table since the last call.
+    std::string painted();
+    /// The cards on the table, the lowest first, as a drop of nothing paints them; no card is current afterwards.
+    std::string cards();
+    /// The message boxes since the last call, each "caption: text".
+    std::string messages();
+
+    MemoryDesktop desktop{application()};
+    MainMod program;
+
+private:
+    std::size_t seen_ = 0;
+};
+
+} // namespace tumble
