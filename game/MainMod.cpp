@@ -20,7 +20,9 @@ Application application() {
             .Major = TUMBLE_VERSION_MAJOR,
             .Minor = TUMBLE_VERSION_MINOR,
             .Revision = TUMBLE_VERSION_PATCH,
-            .Icon = icon};
+            .Icon = icon,
+            .Width = frmTumble::clientWidth,
+            .Height = frmTumble::clientHeight};
 }
 
 MainMod::MainMod() : options_([this](auto... settings) { startGame(settings...); }), table_(tableTracker) {}

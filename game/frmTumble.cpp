@@ -15,7 +15,7 @@ constexpr std::int16_t rightButton = 2;
 } // namespace
 
 frmTumble::frmTumble(const std::unique_ptr<CardTracker>& tableTracker)
-    : Form("Tumble", 9525, 6630), tableTracker_(tableTracker) {
+    : Form("Tumble", clientWidth, clientHeight), tableTracker_(tableTracker) {
     picTable.MouseDown = [this](auto... event) { picTable_MouseDown(event...); };
     picTable.MouseMove = [this](auto... event) { picTable_MouseMove(event...); };
     picTable.MouseUp = [this](auto... event) { picTable_MouseUp(event...); };

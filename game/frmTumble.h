@@ -11,6 +11,9 @@ namespace tumble {
 /// The window in which the game is played: the table, the label that names the card under the mouse, and three buttons.
 class frmTumble : public Form {
 public:
+    static constexpr float clientWidth = 9525; // twips
+    static constexpr float clientHeight = 6630;
+
     /// `tableTracker` is the game's one tracker, made after the window shows and before it takes input.
     explicit frmTumble(const std::unique_ptr<CardTracker>& tableTracker);
 
@@ -32,7 +35,7 @@ private:
 public:
     // The controls: container, name, caption, place (left, top, width, height), tab position, handler.
     // clang-format off
-    PictureBox picTable{*this, "picTable", {240, 120, 9015, 6015}, 0, tableGreen};
+    PictureBox picTable{*this, "picTable", "Table", {240, 120, 9015, 6015}, 0, tableGreen};
     Label lblCurrentCardLabel{*this, "lblCurrentCardLabel", "Current Card:", {240, 6240, 1215, 375}, 4, {.bold = true}};
     Label lblCurrentCard{*this, "lblCurrentCard", "", {1560, 6240, 2775, 255}, 5};
     CommandButton cmdAbout{*this, "cmdAbout", "&About", {7200, 6240, 615, 375}, 3, [] { cmdAbout_Click(); }};

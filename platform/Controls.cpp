@@ -11,16 +11,20 @@ Control::Control(Container& container, std::string name, std::string caption, co
     : container_(container), name_(std::move(name)), caption_(std::move(caption)), place_(place), tabIndex_(tabIndex) {}
 
 void Control::Caption(std::string caption) {
-    caption_ = std::move(caption);
-    changed();
+    if (caption != caption_) {
+        caption_ = std::move(caption);
+        changed();
+    }
 }
 
 void Control::changed() {
     desktop().changed(*this);
 }
 
-PictureBox::PictureBox(Container& container, std::string name, const Place& place, int tabIndex, Colour backColor)
-    : Control(container, std::move(name), {}, place, tabIndex), DrawingSurface(place.Width, place.Height, backColor) {
+PictureBox::PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+                       Colour backColor)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex),
+      DrawingSurface(place.Width, place.Height, backColor) {
     container.add(this);
 }
 
@@ -74,9 +78,9 @@ Frame::Frame(Container& container, std::string name, std::string caption, const 
     container.add(this);
 }
 
-Slider::Slider(Container& container, std::string name, const Place& place, int tabIndex, int min, int max,
-               Handler change)
-    : Control(container, std::move(name), {}, place, tabIndex),
+Slider::Slider(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, int min,
+               int max, Handler change)
+    : Control(container, std::move(name), std::move(caption), place, tabIndex),
       min_(min),
       max_(max),
       value_(min),

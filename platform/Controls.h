@@ -53,7 +53,8 @@ private:
 };
 
 /// What every control has. Controls hold their state; the desktop shows it and calls the operations and events that
-/// answer to what the player does, as a test does. An ampersand marks a caption's access key.
+/// answer to what the player does, as a test does. An ampersand marks a caption's access key; the caption of a picture
+/// box or a slider does not show, it is what a screen reader calls the control.
 class Control {
 public:
     Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
@@ -88,7 +89,8 @@ class PictureBox : public Control, public DrawingSurface {
 public:
     using MouseEvent = std::function<void(std::int16_t Button, std::int16_t Shift, float X, float Y)>;
 
-    PictureBox(Container& container, std::string name, const Place& place, int tabIndex, Colour backColor);
+    PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+               Colour backColor);
 
     MouseEvent MouseDown;
     MouseEvent MouseMove;
@@ -159,7 +161,8 @@ public:
 /// An upright slider over whole numbers, its minimum at the top.
 class Slider : public Control {
 public:
-    Slider(Container& container, std::string name, const Place& place, int tabIndex, int min, int max, Handler change);
+    Slider(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, int min,
+           int max, Handler change);
 
     int Min() const { return min_; }
     void Min(int min);

@@ -16,6 +16,9 @@ struct Application {
     std::int16_t Minor;
     std::int16_t Revision;
     const Picture& Icon;
+    // Client size in twips of its largest form; all forms open at the scale that suits this one.
+    float Width;
+    float Height;
 };
 
 /// The windowing system as the game sees it.

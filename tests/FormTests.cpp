@@ -34,7 +34,7 @@ public:
     OptionButton two{*this, "two", "", {}, 1, [this] { events += "two "; }};
     Frame frame{*this, "frame", "", {}, 2, {}};
     OptionButton inFrame{frame, "inFrame", "", {}, 3, [this] { events += "inFrame "; }};
-    Slider slider{*this, "slider", {}, 4, 0, 4, [this] { events += std::to_string(slider.Value()); }};
+    Slider slider{*this, "slider", "", {}, 4, 0, 4, [this] { events += std::to_string(slider.Value()); }};
 };
 
 TEST(OptionButtonTest, SelectingDeselectsTheOthersOfItsContainerAndClicksOnce) {
@@ -132,14 +132,14 @@ TEST(FormTest, ControlsLieWhereTheyWereDesigned) {
     MainMod program;
     const frmAbout about;
     EXPECT_EQ(Description(program.table()).text.str(), R"(Tumble 9525x6630
-0 '' 240,120 9015x6015
+0 'Table' 240,120 9015x6015
 4 'Current Card:' 240,6240 1215x375 8.25 bold
 5 '' 1560,6240 2775x255 8.25
 3 '&About' 7200,6240 615x375
 2 '&Help' 7920,6240 615x375
 1 'E&xit' 8640,6240 615x375 Enter)");
     EXPECT_EQ(Description(about).text.str(), R"(About Tumble 4530x1890
-1 '' 240,240 540x540
+1 'Icon' 240,240 540x540
 2 'Tumble' 1050,240 1245x480 13.5 bold
 3 'Version 1.0' 1050,780 1365x225 8.25
 4 ')" + about.lblDisclaimer.Caption() + R"(' 1080,1200 1455x435 8.25
@@ -151,10 +151,10 @@ TEST(FormTest, ControlsLieWhereTheyWereDesigned) {
 3 'Small' 240,240 855x375
 4 'Medium' 240,600 1095x375
 5 'Normal' 240,960 975x495 on
-30 '' 1320,240 1335x1935
+30 'Card size preview' 1320,240 1335x1935
 6 'Back Design' 3240,120 2895x2415 8.25 bold
-7 '' 360,360 630x1935 1 to 4
-31 '' 1320,240 1335x1935
+7 'Back design' 360,360 630x1935 1 to 4
+31 'Back design preview' 1320,240 1335x1935
 8 'Card Order' 6360,120 2055x3495 8.25 bold
 9 'Natural' 240,240 1335x375 on
 10 'Shuffled' 240,720 1575x375
@@ -261,7 +261,8 @@ TEST(FormTest, ExitAndClosingTheWindowEndTheApplication) {
 
 TEST(AboutBoxTest, NamesTheApplicationUntilOkIsPressed) {
     const Picture icon("icon", {});
-    MemoryDesktop desktop({.Title = "Patience", .Major = 3, .Minor = 20, .Revision = 1, .Icon = icon});
+    MemoryDesktop desktop(
+        {.Title = "Patience", .Major = 3, .Minor = 20, .Revision = 1, .Icon = icon, .Width = 0, .Height = 0});
     MainMod program;
     int opened = 0;
     desktop.whileModal = [&](Form& form) {

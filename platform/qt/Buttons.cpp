@@ -50,7 +50,7 @@ bool WrappingRadioButton::hitButton(const QPoint& place) const {
 }
 
 QRect CaptionedFrame::captionRoom() const {
-    return {8, 0, width() - 16, 16};
+    return {captionHeight_ / 2, 0, width() - captionHeight_, captionHeight_};
 }
 
 void CaptionedFrame::paintEvent(QPaintEvent* /*event*/) {
@@ -71,7 +71,7 @@ void IconAboveButton::paintEvent(QPaintEvent* /*event*/) {
     initStyleOption(&option);
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
 
-    constexpr int gap = 2;
+    const int gap = iconSize().height() / 16;
     const int captionHeight = painter.fontMetrics().height();
     const int top = (height() - iconSize().height() - gap - captionHeight) / 2;
     const QRect iconPlace(QPoint((width() - iconSize().width()) / 2, top), iconSize());

@@ -24,11 +24,17 @@ class CaptionedFrame : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
 
+    /// In logical pixels; the upper line runs through the caption's middle.
+    void captionHeight(int height) { captionHeight_ = height; }
+
     /// Where the caption goes, in the frame's own logical pixels.
     QRect captionRoom() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    int captionHeight_ = 0;
 };
 
 /// A button that shows its icon above its caption.

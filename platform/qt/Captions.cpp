@@ -28,14 +28,14 @@ bool fits(const QFont& font, const QString& caption, QSize room, Wrap wrap) {
 
 } // namespace
 
-QFont captionFont(const Font& wanted, const QString& caption, QSize room, Wrap wrap) {
+QFont captionFont(const Font& wanted, double scale, const QString& caption, QSize room, Wrap wrap) {
     QFont font = QApplication::font();
     font.setBold(wanted.bold);
     auto points = static_cast<double>(wanted.points);
-    setPoints(font, points);
+    setPoints(font, points * scale);
     while (!fits(font, caption, room, wrap) && points > leastPoints) {
         points = std::max(points - pointStep, leastPoints);
-        setPoints(font, points);
+        setPoints(font, points * scale);
     }
     for (int stretch = 100 - stretchStep; !fits(font, caption, room, wrap) && stretch >= leastStretch;
          stretch -= stretchStep) {

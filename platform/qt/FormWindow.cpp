@@ -19,15 +19,11 @@ namespace tumble {
 
 namespace {
 
-const PixelScale logicalPixels(1);
+constexpr double largestFactor = 16; // device pixels for each 15 twips
 
-QSize logicalSize(float width, float height) {
-    return {logicalPixels.pixel(width), logicalPixels.pixel(height)};
-}
-
-QRect logicalRect(const Place& place) {
-    return {QPoint(logicalPixels.pixel(place.Left), logicalPixels.pixel(place.Top)),
-            logicalSize(place.Width, place.Height)};
+QSize logicalSize(const Form& form, double scale) {
+    const double pixels = scale / static_cast<double>(twipsPerPixel);
+    return {qRound(static_cast<double>(form.Width()) * pixels), qRound(static_cast<double>(form.Height()) * pixels)};
 }
 
 // The place that a control's widget gets. An option button shows no border: its caption may use half of the space to
@@ -49,19 +45,24 @@ Place roomOf(const OptionButton& option) {
     return {room.Left, room.Top - free / 2, room.Width, room.Height + free};
 }
 
-constexpr QSize buttonMargin(8, 4);
-constexpr int iconSize = 32;
+constexpr QSize buttonMargin(8, 4);    // logical pixels
+constexpr int iconSize = 32;           // logical pixels at scale 1
+constexpr int frameCaptionHeight = 16; // likewise
 
 } // namespace
 
-FormWindow::FormWindow(Form& form, const QIcon& icon, PictureCache& pictures)
-    : form_(form), icon_(icon), pictures_(pictures) {
+FormWindow::FormWindow(Form& form, double scale, const QIcon& icon, PictureCache& pictures)
+    : form_(form), icon_(icon), pictures_(pictures), scale_(scale) {
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
-    setFixedSize(logicalSize(form.Width(), form.Height()));
+    setMinimumSize(logicalSize(form, 1));
+    resize(logicalSize(form, scale));
     buildControls(form, this);
     setTabOrderByIndex();
-    move(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size(), screen()->availableGeometry()).topLeft());
+    layOut();
+    const QRect available = screen()->availableGeometry();
+    const QRect middle = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size(), available);
+    move(std::max(middle.x(), available.x()), std::max(middle.y(), available.y()));
 }
 
 void FormWindow::changed(const Control& control) {
@@ -112,9 +113,9 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
     const auto add = [&](auto* control) {
         QWidget* widget = build(*control, parent);
         widget->setObjectName(QString::fromStdString(control->Name()));
-        widget->setGeometry(logicalRect(roomOf(*control)));
+        widget->setStyle(&style_);
+        placed_.push_back({widget, roomOf(*control)});
         byTabIndex_.emplace(control->TabIndex(), widget);
-        changed(*control);
     };
     for (const AnyControl& control : container.controls()) {
         std::visit(add, control);
@@ -124,6 +125,7 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
 QWidget* FormWindow::build(PictureBox& box, QWidget* parent) {
     auto* widget = new SurfaceWidget(
         box, pictures_, [this](const Handler& handler) { raise(handler); }, parent);
+    widget->setAccessibleName(QString::fromStdString(box.Caption()));
     surfaces_.emplace(&box, widget);
     return widget;
 }
@@ -133,10 +135,9 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    updates_.emplace(&label, [&label, widget] {
-        const QString caption = QString::fromStdString(label.Caption());
-        widget->setFont(captionFont(label.font, caption, widget->size(), Wrap::Words));
-        widget->setText(caption);
+    updates_.emplace(&label, [this, &label, widget] {
+        widget->setFont(captionFont(label.font, label.Caption(), widget->size(), Wrap::Words));
+        widget->setText(QString::fromStdString(label.Caption()));
     });
     return widget;
 }
@@ -146,17 +147,16 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
     if (button.face == ButtonFace::IconAboveCaption) {
         widget = new IconAboveButton(parent);
         widget->setIcon(icon_);
-        widget->setIconSize({iconSize, iconSize});
     } else {
         widget = new QPushButton(parent);
     }
     widget->setDefault(button.pressedByEnter());
     enterButton_ = button.pressedByEnter() ? widget : enterButton_;
     escButton_ = button.pressedByEsc() ? widget : escButton_;
-    updates_.emplace(&button, [&button, widget] {
-        const QString caption = QString::fromStdString(button.Caption());
-        widget->setFont(captionFont({}, caption, widget->size() - buttonMargin, Wrap::Lines));
-        widget->setText(caption);
+    updates_.emplace(&button, [this, &button, widget] {
+        widget->setIconSize(QSize(iconSize, iconSize) * scale_);
+        widget->setFont(captionFont({}, button.Caption(), widget->size() - buttonMargin, Wrap::Lines));
+        widget->setText(QString::fromStdString(button.Caption()));
     });
     connect(widget, &QPushButton::clicked, this, [this, &button] { raise(button.Click); });
     return widget;
@@ -164,10 +164,9 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
 
 QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     auto* widget = new WrappingRadioButton(parent);
-    updates_.emplace(&option, [&option, widget] {
-        const QString caption = QString::fromStdString(option.Caption());
-        widget->setFont(captionFont({}, caption, widget->captionRoom().size(), Wrap::Words));
-        widget->setText(caption);
+    updates_.emplace(&option, [this, &option, widget] {
+        widget->setFont(captionFont({}, option.Caption(), widget->captionRoom().size(), Wrap::Words));
+        widget->setText(QString::fromStdString(option.Caption()));
         widget->setChecked(option.Value());
         // Tab comes to the selected choice of a frame, the arrows go on from there.
         widget->setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
@@ -182,10 +181,10 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
 
 QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
     auto* widget = new CaptionedFrame(parent);
-    updates_.emplace(&frame, [&frame, widget] {
-        const QString caption = QString::fromStdString(frame.Caption());
-        widget->setFont(captionFont(frame.font, caption, widget->captionRoom().size(), Wrap::Lines));
-        widget->setTitle(caption);
+    updates_.emplace(&frame, [this, &frame, widget] {
+        widget->captionHeight(qRound(frameCaptionHeight * scale_));
+        widget->setFont(captionFont(frame.font, frame.Caption(), widget->captionRoom().size(), Wrap::Lines));
+        widget->setTitle(QString::fromStdString(frame.Caption()));
     });
     buildControls(frame, widget);
     return widget;
@@ -198,6 +197,7 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     widget->setTickPosition(QSlider::TicksBothSides);
     widget->setTickInterval(1);
     widget->setPageStep(1);
+    widget->setAccessibleName(QString::fromStdString(slider.Caption()));
     updates_.emplace(&slider, [&slider, widget] {
         widget->setRange(slider.Min(), slider.Max());
         widget->setValue(slider.Value());
@@ -205,6 +205,35 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     connect(widget, &QSlider::valueChanged, this,
             [this, &slider](int value) { raise([&slider, value] { slider.Value(value); }); });
     return widget;
+}
+
+QFont FormWindow::captionFont(const Font& font, const std::string& caption, QSize room, Wrap wrap) const {
+    return tumble::captionFont(font, scale_, QString::fromStdString(caption), room, wrap);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
+    layOut();
+}
+
+void FormWindow::layOut() {
+    const double fits = std::min(width() * static_cast<double>(twipsPerPixel / form_.Width()),
+                                 height() * static_cast<double>(twipsPerPixel / form_.Height()));
+    scale_ = std::clamp(fits, 1.0, largestFactor / pixelRatio(*this));
+    style_.scale(scale_);
+    const QSize margins = (size() - logicalSize(form_, scale_)) / 2;
+    const PixelScale pixels(scale_);
+    for (const auto& [widget, room] : placed_) {
+        const QPoint origin = widget->parent() == this ? QPoint(margins.width(), margins.height()) : QPoint();
+        const QPoint first(pixels.pixel(room.Left), pixels.pixel(room.Top));
+        const QPoint end(pixels.pixel(room.Left + room.Width), pixels.pixel(room.Top + room.Height));
+        widget->setGeometry(QRect(origin + first, origin + end - QPoint(1, 1)));
+    }
+    for (const auto& [control, update] : updates_) {
+        update();
+    }
+    for (const auto& [box, surface] : surfaces_) {
+        surface->scale(scale_);
+    }
 }
 
 void FormWindow::setTabOrderByIndex() {

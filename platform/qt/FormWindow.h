@@ -1,13 +1,17 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/qt/Captions.h"
 #include "platform/qt/PictureCache.h"
+#include "platform/qt/ScaledStyle.h"
 
 #include <QIcon>
 #include <QWidget>
 
 #include <functional>
 #include <map>
+#include <string>
+#include <vector>
 
 class QAbstractButton;
 
@@ -15,10 +19,15 @@ namespace tumble {
 
 class SurfaceWidget;
 
-/// Shows a form as a window of its own and reports to the form's controls what the player does.
+/// Shows a form as a window of its own and reports to the form's controls what the player does. The content keeps the
+/// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1.
 class FormWindow : public QWidget {
 public:
-    FormWindow(Form& form, const QIcon& icon, PictureCache& pictures);
+    /// `scale`: logical pixels for each 15 twips, when it opens.
+    FormWindow(Form& form, double scale, const QIcon& icon, PictureCache& pictures);
+
+    /// The scale that the window's size gives.
+    double scale() const { return scale_; }
 
     /// Shows a control's new state.
     void changed(const Control& control);
@@ -32,6 +41,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void raise(const Handler& handler);
@@ -43,11 +53,21 @@ private:
     QWidget* build(Frame& frame, QWidget* parent);
     QWidget* build(Slider& slider, QWidget* parent);
     void setTabOrderByIndex();
+    void layOut();
+    QFont captionFont(const Font& font, const std::string& caption, QSize room, Wrap wrap) const;
+
+    struct Placed {
+        QWidget* widget;
+        Place room; // in its container, twips
+    };
 
     Form& form_;
     QIcon icon_;
     PictureCache& pictures_;
     bool retired_ = false;
+    double scale_;
+    ScaledStyle style_;
+    std::vector<Placed> placed_;
     QAbstractButton* enterButton_ = nullptr;
     QAbstractButton* escButton_ = nullptr;
     std::map<const PictureBox*, SurfaceWidget*> surfaces_;

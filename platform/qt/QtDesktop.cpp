@@ -9,8 +9,10 @@
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -19,6 +21,8 @@ namespace tumble {
 namespace {
 
 constexpr std::array iconSizes{16, 24, 32, 48, 64, 128};
+constexpr std::array openingScales{4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25}; // the largest first, or else 1
+constexpr double shareOfScreen = 0.7;
 constexpr int longestWaitForScreen = 1000; // milliseconds
 constexpr Qt::WindowFlags dialogFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -60,7 +64,7 @@ void QtDesktop::run() const {
 void QtDesktop::Show(Form& form, Modality modality) {
     QPointer<FormWindow>& window = windows_[&form];
     if (window == nullptr) {
-        window = new FormWindow(form, icon_, pictures_);
+        window = new FormWindow(form, openingScale(), icon_, pictures_);
     }
     if (modality == Modality::Modeless) {
         window->show();
@@ -111,9 +115,14 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
     for (const auto& [form, window] : windows_) {
         window->showPaintings();
     }
+    FormWindow* parent = windowInFront();
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption),
-                    QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok, parent);
+    if (parent != nullptr) {
+        QFont font = box.font();
+        font.setPointSizeF(font.pointSizeF() * parent->scale());
+        box.setFont(font);
+    }
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
@@ -141,6 +150,28 @@ void QtDesktop::painted(PictureBox& box, const PaintItem& item) {
             surface->showNow();
         }
     }
+}
+
+FormWindow* QtDesktop::windowInFront() const {
+    FormWindow* visible = nullptr;
+    for (const auto& [form, window] : windows_) {
+        if (window->isActiveWindow()) {
+            return window;
+        }
+        visible = window->isVisible() ? window.data() : visible;
+    }
+    return visible;
+}
+
+double QtDesktop::openingScale() const {
+    const QSizeF room = QSizeF(QGuiApplication::primaryScreen()->size()) * shareOfScreen;
+    const auto fits = [&](double scale) {
+        const double pixels = scale / static_cast<double>(twipsPerPixel);
+        return static_cast<double>(App().Width) * pixels <= room.width() &&
+               static_cast<double>(App().Height) * pixels <= room.height();
+    };
+    const auto* const largest = std::find_if(openingScales.begin(), openingScales.end(), fits);
+    return largest != openingScales.end() ? *largest : 1;
 }
 
 FormWindow* QtDesktop::windowOf(const Form& form) const {

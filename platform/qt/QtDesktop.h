@@ -42,6 +42,9 @@ public:
 
 private:
     FormWindow* windowOf(const Form& form) const;
+    /// The window that the player looks at; null when none shows.
+    FormWindow* windowInFront() const;
+    double openingScale() const;
 
     PictureCache pictures_;
     QIcon icon_;

@@ -55,6 +55,11 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
 
 } // namespace
 
+double pixelRatio(const QWidget& widget) {
+    const double ratio = widget.devicePixelRatioF();
+    return ratio >= 1 ? ratio : 1;
+}
+
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise,
                              QWidget* parent)
     : QWidget(parent), box_(box), raise_(std::move(raise)), pictures_(pictures), focusRing_(new FocusRing(parent)) {
@@ -65,11 +70,17 @@ SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::funct
     focusRing_->hide();
 }
 
+void SurfaceWidget::scale(double scale) {
+    scale_ = scale;
+    placeFocusRing();
+    update();
+}
+
 void SurfaceWidget::changed(const Rect& place) {
-    const QRect pixels = toQRect(scale().pixels(place));
+    const QRect pixels = toQRect(pixelScale().pixels(place));
     outOfDate_ |= pixels;
     // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
-    const double ratio = devicePixelRatioF();
+    const double ratio = pixelRatio(*this);
     update(QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio)
                .toAlignedRect()
                .adjusted(-1, -1, 1, 1));
@@ -81,14 +92,20 @@ void SurfaceWidget::showNow() {
     }
 }
 
+// The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
 void SurfaceWidget::bringImageUpToDate() {
-    const PixelRect all = scale().pixels(box_.painting().bounds());
-    if (image_.size() != QSize(all.width(), all.height())) {
-        image_ = QImage(all.width(), all.height(), QImage::Format_RGB32);
-        outOfDate_ = toQRect(all);
+    const PixelScale scale = pixelScale();
+    const QRect all = toQRect(scale.pixels(box_.painting().bounds()));
+    if (imageFactor_ != scale.factor()) {
+        if (imageFactor_ != 0) {
+            pictures_.clear();
+        }
+        imageFactor_ = scale.factor();
+        image_ = QImage(all.size(), QImage::Format_RGB32);
+        outOfDate_ = all;
     }
-    if (const QRect part = outOfDate_.intersected(toQRect(all)); !part.isEmpty()) {
-        replay(box_.painting().ground(), box_.painting().items(), scale(), part, pictures_, image_);
+    if (const QRect part = outOfDate_.intersected(all); !part.isEmpty()) {
+        replay(box_.painting().ground(), box_.painting().items(), scale, part, pictures_, image_);
     }
     outOfDate_ = {};
 }
@@ -97,7 +114,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
     bringImageUpToDate();
     QPainter painter(this);
     // In device pixels, so that a fractional ratio resamples nothing.
-    const double ratio = devicePixelRatioF();
+    const double ratio = pixelRatio(*this);
     painter.scale(1 / ratio, 1 / ratio);
     painter.drawImage(0, 0, image_);
 }
@@ -118,17 +135,21 @@ void SurfaceWidget::report(const PictureBox::MouseEvent& handler, int button, co
     if (handler == nullptr) {
         return;
     }
-    const QPointF pixel = event.position() * devicePixelRatioF();
-    const float X = scale().twips(pixel.x());
-    const float Y = scale().twips(pixel.y());
+    const QPointF pixel = event.position() * pixelRatio(*this);
+    const float X = pixelScale().twips(pixel.x());
+    const float Y = pixelScale().twips(pixel.y());
     raise_([&] { handler(static_cast<std::int16_t>(button), shiftKeys(event.modifiers()), X, Y); });
 }
 
 void SurfaceWidget::focusInEvent(QFocusEvent* event) {
     const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    focusRing_->setGeometry(geometry().adjusted(-ringWidth, -ringWidth, ringWidth, ringWidth));
+    placeFocusRing();
     focusRing_->setVisible(byKeyboard);
     focusRing_->stackUnder(this);
+}
+
+void SurfaceWidget::placeFocusRing() {
+    focusRing_->setGeometry(geometry().adjusted(-ringWidth, -ringWidth, ringWidth, ringWidth));
 }
 
 void SurfaceWidget::focusOutEvent(QFocusEvent* /*event*/) {

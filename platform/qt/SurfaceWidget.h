@@ -11,11 +11,17 @@
 
 namespace tumble {
 
+/// Device pixels for each logical pixel; at least 1, whatever the toolkit says.
+double pixelRatio(const QWidget& widget);
+
 /// Shows a picture box's painting, in the exact pixels of the screen, and reports the mouse to it.
 class SurfaceWidget : public QWidget {
 public:
     /// `raise` runs a handler of the box when the form takes input.
     SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise, QWidget* parent);
+
+    /// Logical pixels for each 15 twips; the painting shows at the new scale after the event.
+    void scale(double scale);
 
     /// Where the painting has changed; it reaches the screen after the event, or with `showNow`.
     void changed(const Rect& place);
@@ -31,15 +37,18 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    PixelScale scale() const { return PixelScale(devicePixelRatioF()); }
+    PixelScale pixelScale() const { return PixelScale(scale_ * pixelRatio(*this)); }
     void bringImageUpToDate();
+    void placeFocusRing();
     void report(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event);
 
     PictureBox& box_;
     std::function<void(const Handler&)> raise_;
     PictureCache& pictures_;
-    QImage image_;    // in device pixels
-    QRect outOfDate_; // of the image
+    double scale_ = 1;
+    double imageFactor_ = 0; // at which the image was painted
+    QImage image_;           // in device pixels
+    QRect outOfDate_;        // of the image
     QWidget* focusRing_;
 };
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tumble {
+
+/// The desktop's own style with the marks of its controls as large as their captions.
+class ScaledStyle : public QProxyStyle {
+public:
+    /// On a style of the application's own kind.
+    ScaledStyle();
+
+    /// Logical pixels for each pixel of the unscaled window.
+    void scale(double scale) { scale_ = scale; }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+
+private:
+    double scale_ = 1;
+};
+
+} // namespace tumble
