@@ -98,7 +98,7 @@ TEST(GameTest, EveryDeckIsPlayedToTheWin) {
     }
 }
 
-TEST(TableWindowTest, LabelNamesTheCardUnderTheMouse) {
+TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
     Table table;
     table.lay(rkFive, suHeart, 100, 100);
     table.layPile(3000, 100, {makeCard(rkSix, suSpade)});
@@ -116,17 +116,10 @@ TEST(TableWindowTest, LabelNamesTheCardUnderTheMouse) {
     table.move({5010, 3010});
     table.release({3010, 5010});
     EXPECT_EQ(table.label(), "Five of Hearts"); // until the mouse moves again
-}
-
-TEST(TableWindowTest, RightPressFlipsAndDragsNothing) {
-    Table table;
-    table.lay(rkFive, suHeart, 100, 100);
     table.painted();
-    table.press({110, 110}, 2);
-    EXPECT_EQ(table.label(), "Five of Hearts");
-    EXPECT_FALSE(table.tracker().moveInProg());
+    table.press({3010, 5010}, 2); // flips the card and drags nothing
     table.release({200, 200});
-    EXPECT_EQ(table.painted(), "CardBack1 100,100");
+    EXPECT_EQ(table.painted(), "CardBack1 3000,5000");
 }
 
 TEST(TableWindowTest, HelpIsWordForWord) {

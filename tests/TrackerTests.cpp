@@ -64,9 +64,8 @@ protected:
 
 TEST_F(CurrentCardTest, IsBroughtToTheTopAndDrawnAlone) {
     tracker.bringCurCardToTop();
-    EXPECT_EQ(table.painted(), "ThreeClubs 500,0");
     tracker.flipCurCard();
-    EXPECT_EQ(table.painted(), "CardBack1 500,0");
+    EXPECT_EQ(table.painted(), "ThreeClubs 500,0; CardBack1 500,0");
     EXPECT_EQ(table.cards(), "TwoClubs 0,0; FourClubs 1000,0; CardBack1 500,0");
 }
 

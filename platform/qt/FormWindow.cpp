@@ -216,8 +216,10 @@ void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void FormWindow::layOut() {
-    const double fits = std::min(width() * static_cast<double>(twipsPerPixel / form_.Width()),
-                                 height() * static_cast<double>(twipsPerPixel / form_.Height()));
+    const auto perUnit = [](int pixels, float twips) {
+        return pixels * static_cast<double>(twipsPerPixel) / static_cast<double>(twips);
+    };
+    const double fits = std::min(perUnit(width(), form_.Width()), perUnit(height(), form_.Height()));
     scale_ = std::clamp(fits, 1.0, largestFactor / pixelRatio(*this));
     style_.scale(scale_);
     const QSize margins = (size() - logicalSize(form_, scale_)) / 2;

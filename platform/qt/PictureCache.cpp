@@ -34,9 +34,12 @@ const QImage& PictureCache::image(const Picture& picture, QSize size) {
 QImage PictureCache::make(const Picture& picture, QSize size) const {
     QImage image = painter_ ? painter_(picture, size) : QImage();
     if (image.isNull()) {
-        image = decoded(picture).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image = decoded(picture);
     }
-    return image.isNull() ? crossedCard(size) : image.convertToFormat(QImage::Format_RGB32);
+    if (image.isNull()) {
+        image = crossedCard(size);
+    }
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace tumble

@@ -44,6 +44,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
         icon_.addPixmap(QPixmap::fromImage(pictures_.image(App().Icon, {size, size})));
     }
     QApplication::setQuitOnLastWindowClosed(false);
+    announceSurfaces();
     desktop(this);
 }
 

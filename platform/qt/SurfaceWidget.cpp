@@ -1,5 +1,6 @@
 #include "platform/qt/SurfaceWidget.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -54,6 +55,13 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
 }
 
 } // namespace
+
+void announceSurfaces() {
+    QAccessible::installFactory([](const QString& /*className*/, QObject* object) -> QAccessibleInterface* {
+        auto* surface = dynamic_cast<SurfaceWidget*>(object);
+        return surface != nullptr ? new QAccessibleWidget(surface, QAccessible::Graphic) : nullptr;
+    });
+}
 
 double pixelRatio(const QWidget& widget) {
     const double ratio = widget.devicePixelRatioF();

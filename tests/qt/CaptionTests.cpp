@@ -5,7 +5,12 @@
 
 #include <QFontDatabase>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
 
 namespace tumble {
 
@@ -33,25 +38,57 @@ Caption captionOf(const QWidget* widget) {
     return {};
 }
 
+double luminance(QRgb colour) {
+    const auto linear = [](int part) {
+        const double share = part / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+/// How clearly the caption stands out from what it is written on.
+double contrast(const QImage& caption) {
+    double darkest = 1;
+    double lightest = 0;
+    for (int y = 0; y < caption.height(); ++y) {
+        for (int x = 0; x < caption.width(); ++x) {
+            darkest = std::min(darkest, luminance(caption.pixel(x, y)));
+            lightest = std::max(lightest, luminance(caption.pixel(x, y)));
+        }
+    }
+    return (lightest + 0.05) / (darkest + 0.05);
+}
+
 /// No caption of the window is cut off or too small to read.
 void expectCaptionsFit(const QWidget* window) {
+    const double scale = dynamic_cast<const FormWindow*>(window)->scale();
     int captions = 0;
-    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
         const auto [text, room, flags] = captionOf(widget);
-        if (text.isEmpty() || !widget->isVisibleTo(window)) {
+        if (text.isEmpty()) {
             continue;
         }
         ++captions;
         const QRect needed = QFontMetrics(widget->font()).boundingRect(QRect({0, 0}, room.size()), flags, text);
         const std::string where = widget->objectName().toStdString() + " in " + widget->font().family().toStdString();
-        EXPECT_LE(needed.width(), room.width()) << where;
-        EXPECT_LE(needed.height(), room.height()) << where;
-        EXPECT_GE(widget->font().pointSizeF() * widget->logicalDpiY(), 6.5 * 96 - 0.01) << where;
+        EXPECT_LE(needed.width(), room.width()) << where << " at " << scale;
+        EXPECT_LE(needed.height(), room.height()) << where << " at " << scale;
+        EXPECT_GE(widget->font().pointSizeF() * widget->logicalDpiY(), 6.5 * 96 * scale - 0.01) << where;
+        if (scale < 1.5) { // colours do not depend on it, but the time this takes does
+            EXPECT_GE(contrast(widget->grab(room).toImage()), 4.5) << where;
+        }
     }
     EXPECT_GE(captions, 4);
 }
 
-TEST_F(Windows, NoCaptionIsCutOffInAnyFont) {
+QPalette darkPalette() {
+    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    return dark;
+}
+
+TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
+    const QPalette light = QApplication::palette();
     for (const char* file :
          {"dejavu/DejaVuSans.ttf", "liberation/LiberationSans-Regular.ttf", "noto/NotoSans-Regular.ttf"}) {
         const int id = QFontDatabase::addApplicationFont("/usr/share/fonts/truetype/" + QString(file));
@@ -60,20 +97,28 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFont) {
 
         MainMod game;
         game.Main();
-        for (const AnyControl& control : game.options().fraDeckType.controls()) {
-            if (auto* const* deck = std::get_if<OptionButton*>(&control)) {
-                (*deck)->Select();
-                expectCaptionsFit(window("Tumble Options"));
-            }
+        QWidget* dialog = window("Tumble Options");
+        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0}) {
+            QApplication::setPalette(scale == 1.25 ? darkPalette() : light);
+            resizeTo(scale, dialog);
+            game.options().optDeckBigPinochle.Select();
+            game.options().optDeck24Card.Select(); // the longest description
+            expectCaptionsFit(dialog);
         }
         game.options().cmdPlay.Click();
-        game.table().lblCurrentCard.Caption("Pile (Queen of Diamonds)");
-        expectCaptionsFit(window("Tumble"));
-
         frmAbout about;
         about.Show();
-        expectCaptionsFit(window("About Tumble"));
+        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0}) {
+            QApplication::setPalette(scale == 1.25 ? darkPalette() : light);
+            resizeTo(scale, window("Tumble"));
+            resizeTo(scale, window("About Tumble"));
+            game.table().lblCurrentCard.Caption("None");
+            game.table().lblCurrentCard.Caption("Pile (Queen of Diamonds)");
+            expectCaptionsFit(window("Tumble"));
+            expectCaptionsFit(window("About Tumble"));
+        }
     }
+    QApplication::setPalette(light);
 }
 
 } // namespace

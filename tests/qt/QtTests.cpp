@@ -1,12 +1,16 @@
 #include "Windows.h"
 
+#include "cards/CardImages.h"
 #include "platform/qt/PaintingReplay.h"
 #include "table/CardTracker.h"
 
+#include <QAccessible>
 #include <QImage>
 #include <QLabel>
 
+#include <array>
 #include <random>
+#include <tuple>
 
 namespace tumble {
 
@@ -19,6 +23,30 @@ constexpr QRgb black = qRgb(0, 0, 0);
 /// The table as it shows, in device pixels.
 QImage picture(QWidget* surface) {
     return surface->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// Every pixel of a card's border lies where its place says, and what lies beyond it on the right and below is not
+/// black.
+void expectBorderOf(const Card& crd, const QImage& shown, PixelScale scale) {
+    const PixelRect box = scale.pixels({.left = static_cast<float>(crd.x1()),
+                                        .top = static_cast<float>(crd.y1()),
+                                        .right = static_cast<float>(crd.x2()),
+                                        .bottom = static_cast<float>(crd.y2())});
+    int misplaced = 0;
+    for (const PixelRect& side : boxSides(box, scale.pen())) {
+        for (int y = side.top; y <= side.bottom; ++y) {
+            for (int x = side.left; x <= side.right; ++x) {
+                misplaced += shown.pixel(x, y) != black ? 1 : 0;
+            }
+        }
+    }
+    for (int x = box.left; x <= box.right; ++x) {
+        misplaced += shown.pixel(x, box.bottom + 1) == black ? 1 : 0;
+    }
+    for (int y = box.top; y <= box.bottom; ++y) {
+        misplaced += shown.pixel(box.right + 1, y) == black ? 1 : 0;
+    }
+    EXPECT_EQ(misplaced, 0) << "at " << scale.factor();
 }
 
 TEST_F(Windows, EnterOnTheFreshDialogStartsTheDefaultGame) {
@@ -190,21 +218,123 @@ TEST_F(Windows, WhatShowsIsWhatWasPainted) {
     };
     EXPECT_EQ(colourAt(600, 100), green) << "an empty pile";
     EXPECT_EQ(colourAt(0, 0), black) << "and its X, which begins in the corner";
-    const QRgb ground = colourAt(5000, 5500);
+    const QRgb ground = colourAt(6500, 5500);
     EXPECT_EQ(ground, toQColor(tableGreen).rgb());
 
     mouse(QTest::MousePress, 4400, 3500, Qt::LeftButton);
-    mouse(QTest::MouseMove, 5000, 3600);
+    mouse(QTest::MouseMove, 5000, 5000);
     EXPECT_EQ(colourAt(600, 100), blue) << "a pile while a card is dragged";
-    mouse(QTest::MouseRelease, 5000, 3600, Qt::LeftButton);
-    const auto ace = mainMod.tableTracker->identifyCard(5000, 3600);
-    const QImage shown = picture(surface);
-    const int left = scale.pixel(static_cast<float>(ace->x1()));
-    const int right = scale.pixel(static_cast<float>(ace->x2()));
-    const int bottom = scale.pixel(static_cast<float>(ace->y2()));
-    for (int x = left; x <= right; ++x) {
-        EXPECT_EQ(shown.pixel(x, bottom), black) << "the border at " << x;
-        EXPECT_EQ(shown.pixel(x, bottom + 1), ground) << "and nothing below it";
+    mouse(QTest::MouseRelease, 5000, 5000, Qt::LeftButton);
+    expectBorderOf(*mainMod.tableTracker->identifyCard(5000, 5000), picture(surface), scale);
+}
+
+// At scale 1 and a ratio of 1 a pixel is 15 twips; elsewhere the mouse is reported in whole twips too, so that no step
+// is lost and the card never slips under the hand.
+TEST_F(Windows, ASlowDragKeepsTheCardUnderTheHandAtEveryScale) {
+    openDialog();
+    mainMod.options().optDeck24Card.Select();
+    QWidget* table = openTable();
+    QWidget* surface = control("Tumble", "picTable");
+    drag({5600, 2300}, {5000, 4900});
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 4.0}) {
+        resizeTo(scale, table);
+        EXPECT_NEAR(scaleOf(table), scale, 0.01);
+        const auto ace = mainMod.tableTracker->identifyCard(5000, 5000);
+        ASSERT_EQ(ace->getStr(), "Ace of Spades");
+        const PixelScale pixels(scaleOf(table) * surface->devicePixelRatioF());
+        const QPoint origin = surface->mapTo(table, QPoint(0, 0));
+        const auto twips = [&](int pixel) { return pixels.twips(pixel * surface->devicePixelRatioF()); };
+        const auto act = [&](QTest::MouseAction action, QPoint at, Qt::MouseButton button) {
+            QTest::mouseEvent(action, table->windowHandle(), button, {}, origin + at);
+        };
+        table->setUpdatesEnabled(false);
+        QPoint at(qRound(333 * scale), qRound(333 * scale));
+        const float heldX = twips(at.x()) - static_cast<float>(ace->x1());
+        const float heldY = twips(at.y()) - static_cast<float>(ace->y1());
+        act(QTest::MousePress, at, Qt::LeftButton);
+        for (int step = 0; step < 400; ++step) {
+            at += step < 200 ? QPoint(1, -(step % 2)) : QPoint(-1, step % 2);
+            act(QTest::MouseMove, at, Qt::NoButton);
+            ASSERT_EQ(twips(at.x()) - static_cast<float>(ace->x1()), heldX) << "step " << step << " at " << scale;
+            ASSERT_EQ(twips(at.y()) - static_cast<float>(ace->y1()), heldY) << "step " << step << " at " << scale;
+        }
+        act(QTest::MouseRelease, at, Qt::LeftButton);
+        table->setUpdatesEnabled(true);
+        expectBorderOf(*ace, picture(surface), pixels);
+    }
+}
+
+TEST_F(Windows, AResizeKeepsWhatIsGoingOn) {
+    QWidget* table = openTable();
+    QWidget* surface = control("Tumble", "picTable");
+    const auto* label = qobject_cast<QLabel*>(control("Tumble", "lblCurrentCard"));
+    const auto ace = mainMod.tableTracker->identifyCard(4400, 3500);
+    mouse(QTest::MousePress, 4395, 3495, Qt::LeftButton);
+    mouse(QTest::MouseMove, 4995, 3795);
+    resizeTo(2, table);
+    EXPECT_TRUE(mainMod.tableTracker->moveInProg());
+    EXPECT_EQ(label->text(), "Ace of Spades");
+    EXPECT_EQ(picture(surface).pixel(10, 10), blue) << "a pile while a card is dragged";
+    mouse(QTest::MouseMove, 5595, 4095);
+    EXPECT_EQ(ace->x1(), 5595 - 4395 + 3550) << "still held where it was";
+    mouse(QTest::MouseRelease, 5595, 4095, Qt::LeftButton);
+
+    for (const QSize absurd : {QSize(1, 1), QSize(32000, 1), QSize(1, 32000)}) {
+        table->resize(absurd);
+        EXPECT_EQ(scaleOf(table), 1);
+        const QRect content = surface->geometry();
+        EXPECT_TRUE(table->rect().contains(content));
+        EXPECT_NEAR(content.center().x(), table->width() / 2, 2) << "in the middle";
+        EXPECT_EQ(surface->size(), QSize(601, 401));
+    }
+}
+
+TEST_F(Windows, AFingerDragsACardAsTheMouseDoes) {
+    QWidget* table = openTable();
+    const QPoint origin = control("Tumble", "picTable")->mapTo(table, QPoint(0, 0));
+    static const QPointingDevice* screen = QTest::createTouchDevice();
+    auto finger = QTest::touchEvent(table->windowHandle(), const_cast<QPointingDevice*>(screen));
+    finger.press(0, origin + QPoint(90, 76)).commit();
+    finger.move(0, origin + QPoint(60, 50)).commit();
+    finger.move(0, origin + QPoint(12, 16)).commit();
+    finger.release(0, origin + QPoint(12, 16)).commit();
+    EXPECT_EQ(mainMod.pileTopLeft->numCards(), 1);
+}
+
+TEST_F(Windows, AScreenReaderLearnsWhatThereIs) {
+    openDialog();
+    const auto inWords = [](const QWidget* widget) {
+        const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        return interface->text(QAccessible::Name).toStdString() + ", " + std::to_string(interface->role());
+    };
+    const std::vector<std::tuple<QString, QString, QAccessible::Role>> controls{
+        {"cmdPlay", "Play", QAccessible::PushButton},
+        {"fraBackDesign", "Back Design", QAccessible::Grouping},
+        {"optByRankSuitAsc", "By rank then suit, ascending", QAccessible::RadioButton},
+        {"sldBackDesign", "Back design", QAccessible::Slider},
+        {"pctBackDesign", "Back design preview", QAccessible::Graphic},
+        {"lblDeckDescription", "Standard 52-card deck", QAccessible::StaticText}};
+    for (const auto& [control, name, role] : controls) {
+        EXPECT_EQ(inWords(Windows::control("Tumble Options", control)),
+                  name.toStdString() + ", " + std::to_string(role));
+    }
+    QTest::keyClick(window("Tumble Options"), Qt::Key_Return);
+    EXPECT_EQ(inWords(control("Tumble", "picTable")), "Table, " + std::to_string(QAccessible::Graphic));
+
+    mouse(QTest::MouseMove, 1350, 1150);
+    EXPECT_EQ(inWords(control("Tumble", "lblCurrentCard")),
+              "Two of Diamonds, " + std::to_string(QAccessible::StaticText));
+}
+
+TEST_F(Windows, TheFocusShows) {
+    QWidget* dialog = openDialog();
+    dialog->setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+    for (const char* name : {"cmdPlay", "cmdExit", "optCardNormal", "sldBackDesign", "pctCardSize", "pctBackDesign"}) {
+        QWidget* widget = control("Tumble Options", name);
+        dialog->setFocus();
+        const QImage without = picture(dialog);
+        widget->setFocus(Qt::TabFocusReason);
+        EXPECT_NE(picture(dialog), without) << name;
     }
 }
 
@@ -219,24 +349,25 @@ protected:
 };
 
 TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
-    const QtDesktop desktop(application());
+    constexpr int cards = 12;
     for (const double factor : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
         LoggingSurface surface;
         CardTracker tracker;
         tracker.picture(&surface);
         std::mt19937 random(static_cast<unsigned>(factor * 100));
-        const auto place = [&](int limit) { return static_cast<float>(static_cast<int>(random() % 9000U) % limit); };
-        for (int i = 0; i < 12; ++i) {
+        const auto place = [&](unsigned limit) { return static_cast<float>(random() % limit); };
+        for (int i = 0; i < cards; ++i) {
             const auto rank = static_cast<CardRank>(rkTwo + i);
             tracker.addCard(rank, suHeart, place(7800), place(4000), static_cast<CardSize>(i % 3), fdFaceUp, bsFirst);
         }
-        for (int drags = 0; drags < 40; ++drags) {
+        for (int drags = 0; drags < 170; ++drags) {
             tracker.identifyCard(place(9000), place(6000));
             tracker.startCurCardMove(place(9000), place(6000));
             tracker.moveCurCard(place(9000), place(6000));
             if (drags % 3 == 0) {
                 tracker.endCurCardMove();
             }
+            ASSERT_LE(surface.painting().items().size(), 2U * cards + 8U);
         }
         const PixelScale scale(factor);
         const QRect all = toQRect(scale.pixels(surface.painting().bounds()));
@@ -246,6 +377,28 @@ TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
         replay(tableGreen, surface.painting().items(), scale, all, pictures, list);
         replay(tableGreen, surface.log, scale, all, pictures, log);
         EXPECT_EQ(list, log) << "at " << factor;
+    }
+}
+
+TEST(PictureCacheTest, FallsBackToWhatCanBeShown) {
+    const auto painter = [](const Picture& picture, QSize size) {
+        QImage image(picture.Key == "known" ? size : QSize(), QImage::Format_RGB32);
+        image.fill(Qt::yellow);
+        return image;
+    };
+    PictureCache pictures(painter);
+    constexpr std::array noise{std::byte{'G'}, std::byte{'I'}, std::byte{'F'}};
+    const Picture known("known", {});
+    const Picture empty("empty", {});
+    const Picture broken("broken", noise);
+    const QSize size(82, 128);
+    EXPECT_EQ(pictures.image(known, size).pixelColor(41, 64), QColor(Qt::yellow));
+    EXPECT_EQ(pictures.image(CardImages::find("AceSpades"), size).pixelColor(41, 110), QColor(Qt::white));
+    for (const Picture* bad : {&empty, &broken}) {
+        const QImage& crossed = pictures.image(*bad, size);
+        EXPECT_EQ(crossed.size(), size);
+        EXPECT_EQ(crossed.pixelColor(41, 64), QColor(Qt::red));
+        EXPECT_EQ(crossed.pixelColor(41, 5), QColor(Qt::white));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/MainMod.h"
+#include "platform/qt/FormWindow.h"
 #include "platform/qt/QtDesktop.h"
 
 #include <QApplication>
@@ -52,11 +53,18 @@ protected:
         return table;
     }
 
+    static double scaleOf(const QWidget* window) { return dynamic_cast<const FormWindow*>(window)->scale(); }
+
+    static void resizeTo(double scale, QWidget* window) {
+        window->resize((QSizeF(window->minimumSize()) * scale).toSize());
+        QCoreApplication::processEvents();
+    }
+
     /// Does something with the table's mouse at a place in twips, which may lie beyond its edges.
     static void mouse(QTest::MouseAction action, float X, float Y, Qt::MouseButton button = Qt::NoButton) {
         QWidget* table = window("Tumble");
         const QPoint origin = control("Tumble", "picTable")->mapTo(table, QPoint(0, 0));
-        const QPointF offset = QPointF(X, Y) / 15;
+        const QPointF offset = QPointF(X, Y) * scaleOf(table) / 15;
         QTest::mouseEvent(action, table->windowHandle(), button, {}, (origin + offset).toPoint());
         QCoreApplication::processEvents();
     }
