@@ -94,11 +94,10 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
-// A key held down since the last window was up presses nothing in this one.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     QAbstractButton* button = enter ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
-    if (button != nullptr && !event->isAutoRepeat()) {
+    if (button != nullptr) {
         button->click();
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/SurfaceWidget.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -27,12 +28,28 @@ constexpr int longestWaitForScreen = 1000; // milliseconds
 constexpr Qt::WindowFlags dialogFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
-/// Widens a message box so far that its caption fits between the window manager's buttons.
-void makeRoomForCaption(QMessageBox& box) {
-    constexpr int buttons = 120; // logical pixels
+/// Makes a message box as large as the window that it belongs to shows its form, if the lines of its text still fit the
+/// widest box that the toolkit makes; and wide enough for its caption between the window manager's buttons.
+void fitToScale(QMessageBox& box, double windowScale) {
+    constexpr int windowButtons = 120; // logical pixels, as all here
+    constexpr int margins = 60;
+    constexpr int widest = 980;
+    constexpr QSize buttonSize(80, 26);
+    const int lines = box.fontMetrics().size(0, box.text()).width() + margins;
+    const double scale = std::min(windowScale, static_cast<double>(widest) / lines);
+
+    QFont font = box.font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    box.setFont(font);
+    QAbstractButton* button = box.button(QMessageBox::Ok);
+    button->setIcon({});
+    button->setMinimumSize(buttonSize * scale);
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-        const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + buttons;
+        const int caption = box.fontMetrics().horizontalAdvance(box.windowTitle()) + windowButtons;
+        const int width = std::min(std::max(caption, qRound(lines * scale)), widest);
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        grid->setContentsMargins(grid->contentsMargins() * scale);
+        grid->setSpacing(qRound(grid->verticalSpacing() * scale));
     }
 }
 
@@ -45,6 +62,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     }
     QApplication::setQuitOnLastWindowClosed(false);
     announceSurfaces();
+    qApp->installEventFilter(&heldKeys_);
     desktop(this);
 }
 
@@ -119,15 +137,10 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
     FormWindow* parent = windowInFront();
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption),
                     QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok, parent);
-    if (parent != nullptr) {
-        QFont font = box.font();
-        font.setPointSizeF(font.pointSizeF() * parent->scale());
-        box.setFont(font);
-    }
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    makeRoomForCaption(box);
+    fitToScale(box, parent != nullptr ? parent->scale() : 1);
     box.exec();
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/Random.h"
+#include "platform/qt/HeldKeys.h"
 #include "platform/qt/PictureCache.h"
 
 #include <QIcon>
@@ -48,6 +49,7 @@ private:
 
     PictureCache pictures_;
     QIcon icon_;
+    HeldKeys heldKeys_;
     std::map<const Form*, QPointer<FormWindow>> windows_;
     ClockRandom random_;
     bool ended_ = false;
