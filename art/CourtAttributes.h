@@ -88,8 +88,7 @@ inline constexpr std::array feather = {
 inline constexpr std::array halberd = {
     Piece{Yellow, Whole, "M0 -46 L1.5 -46 L1.5 -6 L0 -6"},
     Piece{White, Whole, "M0 -55.6 L2 -43.5 L0 -43.5"},
-    Piece{White, Single,
-          "M1.5 -46 C3.4 -46 4.8 -47.6 5.6 -49.6 C6.6 -45 6.6 -41 5.6 -36.4 C4.8 -38.4 3.4 -40 1.5 -40 Z"},
+    Piece{White, Single, "M1.5 -46 C3.2 -46 4.4 -47.6 5 -49.6 C6.1 -45 6.1 -41 5 -36.4 C4.4 -38.4 3.2 -40 1.5 -40 Z"},
     Piece{White, Single, "M-1.5 -45.5 L-6.4 -43 L-1.5 -40.5 Z"},
 };
 

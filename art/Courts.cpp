@@ -5,6 +5,9 @@
 #include "art/CourtHeadgear.h"
 #include "art/Marks.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace tumble {
 
 namespace {
@@ -74,29 +77,20 @@ constexpr std::array<Regalia, 12> regalia = {{
     {black, towerCrown, flamingSword},
 }};
 
-constexpr QRectF frame(12.5, 6.5, 56, 113);
-constexpr QRectF pipBox(14, 9, 12, 13);
+/// The distances of the frame's outer edge from the edges of the card.
+constexpr QSizeF frameInset(12, 6);
+constexpr QSizeF pipSize(12, 13);
 
 /// How far to the right of the middle the hand is.
-constexpr double handX = 20.5;
+constexpr double handX = 20;
 
-// The halves meet along a line that falls from the left edge of the frame to the right; the middle is the origin.
-constexpr QPointF seamStart(-28, -6);
-constexpr QPointF seamEnd(28, 6);
-constexpr QPointF sashEdge(0, 2.4);
+// The halves meet along a line through the middle, the origin, under the sash. It falls to the right.
+constexpr double sashHalfWidth = 28;
+constexpr double sashFall = 6;
+constexpr double sashHalfHeight = 2.4;
 
-QPainterPath area(const QPolygonF& corners) {
-    QPainterPath path;
-    path.addPolygon(corners);
-    path.closeSubpath();
-    return path;
-}
-
-void paintHalf(QPainter& painter, const Body& body, const Costume& costume, const Regalia& worn) {
+void paintFigure(QPainter& painter, const Body& body, const Costume& costume, const Regalia& worn) {
     const Wardrobe wardrobe = dressed(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
-    painter.save();
-    painter.translate(cardWidth / 2, cardHeight / 2);
-    painter.setClipPath(area({{-28, -56.5}, {28, -56.5}, seamEnd, seamStart}));
     paintPieces(painter, body.robe, wardrobe);
     painter.translate(handX, 0);
     paintPieces(painter, worn.attribute, wardrobe);
@@ -106,15 +100,15 @@ void paintHalf(QPainter& painter, const Body& body, const Costume& costume, cons
     paintPieces(painter, face, wardrobe);
     paintPieces(painter, body.forelocks, wardrobe);
     paintPieces(painter, worn.headgear, wardrobe);
-    painter.restore();
 }
 
 void paintSash(QPainter& painter, const Fabric& fabric) {
-    painter.save();
-    painter.translate(cardWidth / 2, cardHeight / 2);
-    paintFabric(painter, area({seamStart - sashEdge, seamEnd - sashEdge, seamEnd + sashEdge, seamStart + sashEdge}),
-                fabric);
-    painter.restore();
+    const QPointF fall(sashHalfWidth, sashFall);
+    const QPointF half(0, sashHalfHeight);
+    QPainterPath sash;
+    sash.addPolygon(QPolygonF{-fall - half, fall - half, fall + half, -fall + half});
+    sash.closeSubpath();
+    paintFabric(painter, sash, fabric);
 }
 
 } // namespace
@@ -122,14 +116,29 @@ void paintSash(QPainter& painter, const Fabric& fabric) {
 void paintCourt(QPainter& painter, int rank, Suit suit) {
     const auto court = static_cast<std::size_t>(rank - firstCourtRank);
     const std::size_t figure = court * suitCount + static_cast<std::size_t>(suit);
-    for (int half = 0; half < 2; ++half) {
-        paintHalf(painter, bodies.at(court), costumes.at(figure), regalia.at(figure));
-        paintSuit(painter, suit, pipBox);
-        turnCard(painter);
-    }
+    const QRect card = fitted(painter, QRectF(0, 0, cardWidth, cardHeight));
+    const QRectF unit = painter.transform().mapRect(QRectF(0, 0, 1, 1));
+    const int line = std::max(1, static_cast<int>(std::lround(unit.width())));
+    const int left = static_cast<int>(std::ceil(frameInset.width() * unit.width()));
+    const int top = static_cast<int>(std::lround(frameInset.height() * unit.height()));
+    const QRect frame = card.adjusted(left, top, -left, -top);
+    const QRect inside = frame.adjusted(line, line, -line, -line);
+
+    painter.save();
+    painter.setClipRect(painter.transform().inverted().mapRect(QRectF(inside)));
+    painter.translate(cardWidth / 2, cardHeight / 2);
+    paintFigure(painter, bodies.at(court), costumes.at(figure), regalia.at(figure));
     paintSash(painter, costumes.at(figure).sash);
-    painter.setPen(QPen(QColor(black), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(frame);
+    painter.resetTransform();
+    painter.setClipRegion(QRegion(frame) - inside);
+    painter.fillRect(frame, QColor(black));
+    painter.restore();
+    const QSize pip = fitted(painter, QRectF({0, 0}, pipSize)).size();
+    paintSuit(painter, suit, QRect(inside.topLeft() + QPoint(line, line * 2), pip));
+}
+
+double courtFall(QSize size) {
+    return sashFall * size.height() / cardHeight / (sashHalfWidth * size.width() / cardWidth);
 }
 
 } // namespace tumble

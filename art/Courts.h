@@ -9,7 +9,10 @@ namespace tumble {
 /// The rank of the jacks; queens and kings follow.
 inline constexpr int firstCourtRank = 11;
 
-/// Paints the double-headed figure of a jack, queen or king in its frame.
+/// Paints the upper half of the double-headed figure of a jack, queen or king in its frame, and some of the lower.
 void paintCourt(QPainter& painter, int rank, Suit suit);
+
+/// By how much the line on which the halves meet falls to the right, in a picture of that size.
+double courtFall(QSize size);
 
 } // namespace tumble

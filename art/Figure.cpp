@@ -12,7 +12,7 @@ namespace {
 constexpr double outlineWidth = 0.8;
 constexpr double lineWidth = 0.7;
 
-/// A mark of a pattern, and the steps from one to the next; rows are in turn shifted by half a step.
+/// A mark of a pattern, and the steps from one to the next; every other row is shifted by half a step.
 struct Repeat {
     const char* mark;
     double stepX;
@@ -24,7 +24,7 @@ Repeat repeatOf(Weave weave) {
     case Weave::Plain:
         break;
     case Weave::Stripes:
-        return {"M-1 0 L1 0 L1 4 L-1 4 Z M3 0 L5 0 L5 4 L3 4 Z", 8, 4};
+        return {"M-1 -4 L1 -4 L1 4 L-1 4 Z M3 -4 L5 -4 L5 4 L3 4 Z", 8, 4};
     case Weave::Lozenges:
         return {"M0 -2.4 L1.9 0 L0 2.4 L-1.9 0 Z", 5, 3.1};
     case Weave::Dots:
@@ -37,30 +37,41 @@ Repeat repeatOf(Weave weave) {
     return {"", 4, 4};
 }
 
-void paintWeave(QPainter& painter, const QPainterPath& shape, const Fabric& fabric) {
+/// The fabric as a texture that repeats in whole pixels, laid out from the painter's origin.
+QBrush woven(const QPainter& painter, const Fabric& fabric) {
     const Repeat repeat = repeatOf(fabric.weave);
+    const QTransform& toPixels = painter.transform();
+    const auto steps = [](double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); };
+    const int halfX = steps(std::abs(toPixels.m11()) * repeat.stepX / 2);
+    const int stepY = steps(toPixels.m22() * repeat.stepY);
+    const QPoint corner(static_cast<int>(std::floor(toPixels.dx())), static_cast<int>(std::floor(toPixels.dy())));
+
+    QImage texture(halfX * 2, stepY * 2, QImage::Format_RGB32);
+    texture.fill(fabric.ground);
+    QPainter weaver(&texture);
+    weaver.setRenderHint(QPainter::Antialiasing);
+    // A stripe takes a quarter of the texture; its left edge lies on a whole pixel.
+    const double left = fabric.weave == Weave::Stripes ? halfX / 4.0 : toPixels.dx() - corner.x();
+    weaver.translate(left, toPixels.dy() - corner.y());
+    weaver.scale(halfX * 2 / repeat.stepX, stepY / repeat.stepY);
     const QPainterPath mark = outline(repeat.mark);
-    const QRectF bounds = shape.boundingRect();
-    const int lastRow = static_cast<int>(std::ceil(bounds.bottom() / repeat.stepY));
-    const int lastColumn = static_cast<int>(std::ceil(std::max(-bounds.left(), bounds.right()) / repeat.stepX));
-    painter.save();
-    painter.setClipPath(shape, Qt::IntersectClip);
-    for (int row = static_cast<int>(std::floor(bounds.top() / repeat.stepY)) - 1; row <= lastRow; ++row) {
+    for (int row = -2; row <= 3; ++row) {
         const double shift = row % 2 == 0 ? 0 : repeat.stepX / 2;
-        for (int column = -lastColumn - 1; column <= lastColumn; ++column) {
-            painter.fillPath(mark.translated(column * repeat.stepX + shift, row * repeat.stepY), QColor(fabric.thread));
+        for (int column = -1; column <= 1; ++column) {
+            weaver.fillPath(mark.translated(column * repeat.stepX + shift, row * repeat.stepY), QColor(fabric.thread));
         }
     }
-    painter.restore();
+    weaver.end();
+    QBrush brush(texture);
+    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toPixels.inverted());
+    return brush;
 }
 
 } // namespace
 
 void paintFabric(QPainter& painter, const QPainterPath& shape, const Fabric& fabric) {
-    painter.fillPath(shape, QColor(fabric.ground));
-    if (fabric.weave != Weave::Plain) {
-        paintWeave(painter, shape, fabric);
-    }
+    const bool isPlain = fabric.weave == Weave::Plain;
+    painter.fillPath(shape, isPlain ? QBrush(QColor(fabric.ground)) : woven(painter, fabric));
     painter.strokePath(shape, QPen(QColor(black), outlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 

@@ -1,24 +1,55 @@
+#include "art/Icon.h"
+
 #include "art/Marks.h"
 #include "art/Pictures.h"
+
+#include <array>
+#include <cmath>
+#include <utility>
 
 namespace tumble {
 
 namespace {
 
-constexpr double iconWidth = 32; // and height, in the icon's own coordinates
+constexpr double boxWidth = 14;
+constexpr std::array suits = {
+    std::pair(Suit::Hearts, QRectF(1, 1, boxWidth, boxWidth)),
+    std::pair(Suit::Clubs, QRectF(17, 1, boxWidth, boxWidth)),
+    std::pair(Suit::Spades, QRectF(1, 17, boxWidth, boxWidth)),
+    std::pair(Suit::Diamonds, QRectF(17, 17, boxWidth, boxWidth)),
+};
+
+int inPixels(double length, int side) {
+    return static_cast<int>(std::lround(length * side / iconWidth));
+}
+
+/// Where a suit's box begins on a side of the icon; those of the second row or column are as far from its end.
+int along(double place, int side) {
+    const int margin = side / iconWidth;
+    return place < iconWidth / 2.0 ? margin : side - margin - inPixels(boxWidth, side);
+}
 
 } // namespace
 
-QImage drawIcon(QSize size) {
-    QImage icon(size, QImage::Format_RGB32);
-    icon.fill(white);
+std::vector<Shape> iconShapes() {
+    std::vector<Shape> shapes;
+    shapes.reserve(suits.size());
+    for (const auto& [suit, box] : suits) {
+        shapes.push_back({suitSymbol(suit, box), suitColour(suit)});
+    }
+    return shapes;
+}
+
+QImage drawIcon(QSize size, QColor ground) {
+    QImage icon(size, QImage::Format_ARGB32);
+    icon.fill(ground);
     QPainter painter(&icon);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size.width() / iconWidth, size.height() / iconWidth);
-    paintSuit(painter, Suit::Hearts, QRectF(1, 2, 14, 13));
-    paintSuit(painter, Suit::Clubs, QRectF(17, 1, 14, 14));
-    paintSuit(painter, Suit::Spades, QRectF(1, 17, 14, 14));
-    paintSuit(painter, Suit::Diamonds, QRectF(17, 17, 14, 14));
+    for (const auto& [suit, box] : suits) {
+        const QRect pixels(along(box.left(), size.width()), along(box.top(), size.height()),
+                           inPixels(box.width(), size.width()), inPixels(box.height(), size.height()));
+        paintSuit(painter, suit, pixels);
+    }
     return icon;
 }
 

@@ -3,6 +3,7 @@
 #include "art/CourtBodies.h"
 #include "art/Marks.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace tumble {
@@ -47,7 +48,7 @@ constexpr std::array cap = {
     Piece{White, Whole, "M0 -33.4 C4 -33.4 7 -33 9.6 -31.4 L8.8 -28 C6 -29.6 3 -30 0 -30"},
 };
 
-void paintJester(QPainter& painter) {
+void paintFigure(QPainter& painter) {
     const Wardrobe right = dressed(yellow, {red}, {yellow}, {black, Weave::Lozenges, yellow}, {red});
     const Wardrobe left = dressed(yellow, {black, Weave::Lozenges, yellow}, {red}, {red}, {black});
     painter.save();
@@ -65,27 +66,26 @@ void paintJester(QPainter& painter) {
     painter.restore();
 }
 
-void paintMark(QPainter& painter) {
-    for (int corner = 0; corner < 2; ++corner) {
-        painter.fillPath(star(QRectF(2, 4, 8, 8)), QColor(red));
-        double y = 14;
-        for (const char letter : std::string_view("JOKER")) {
-            paintGlyph(painter, letter, QRectF(3, y, 6, 8), black);
-            y += 10;
-        }
-        turnCard(painter);
+} // namespace
+
+void paintJokerMark(QPainter& painter) {
+    const QRect starPixels = fitted(painter, QRectF(2, 4, 8, 8));
+    QRect letterPixels = fitted(painter, QRectF(3, 14, 6, 8));
+    const int step = fitted(painter, QRectF(0, 0, 1, 10)).height();
+    letterPixels.moveLeft(std::max(2, letterPixels.left()));
+    painter.fillPath(painter.transform().inverted().map(star(starPixels)), QColor(red));
+    for (const char letter : std::string_view("JOKER")) {
+        paintGlyph(painter, letter, letterPixels, black);
+        letterPixels.translate(0, step);
     }
 }
 
-} // namespace
-
-void paintJoker(QPainter& painter) {
-    paintMark(painter);
-    paintJester(painter);
-    paintSuit(painter, Suit::Clubs, QRectF(13, 15, 11, 11));
-    paintSuit(painter, Suit::Hearts, QRectF(27, 7, 11, 11));
-    paintSuit(painter, Suit::Spades, QRectF(43, 7, 11, 11));
-    paintSuit(painter, Suit::Diamonds, QRectF(57, 15, 11, 11));
+void paintJester(QPainter& painter) {
+    paintFigure(painter);
+    paintSuit(painter, Suit::Clubs, fitted(painter, QRectF(13, 15, 11, 11)));
+    paintSuit(painter, Suit::Hearts, fitted(painter, QRectF(27, 7, 11, 11)));
+    paintSuit(painter, Suit::Spades, fitted(painter, QRectF(43, 7, 11, 11)));
+    paintSuit(painter, Suit::Diamonds, fitted(painter, QRectF(57, 15, 11, 11)));
 }
 
 } // namespace tumble

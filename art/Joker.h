@@ -4,7 +4,10 @@
 
 namespace tumble {
 
-/// Paints the jester and the joker's mark in the corners.
-void paintJoker(QPainter& painter);
+/// Paints the joker's mark in the upper left corner.
+void paintJokerMark(QPainter& painter);
+
+/// Paints the jester, who juggles the suits.
+void paintJester(QPainter& painter);
 
 } // namespace tumble

@@ -2,21 +2,55 @@
 
 #include <QTransform>
 
-#include <sstream>
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+#include <system_error>
 
 namespace tumble {
 
 namespace {
 
-QPointF readPoint(std::istream& in) {
-    double x = 0;
-    double y = 0;
-    in >> x >> y;
-    return {x, y};
-}
+/// Reads the commands and numbers of an outline one after the other.
+class Reader {
+public:
+    explicit Reader(std::string_view text) : text_(text) {}
 
-void readCommand(char command, std::istream& in, QPainterPath& path) {
-    const QPointF first = command == 'Z' ? QPointF() : readPoint(in);
+    /// The next command, or 0 at the end.
+    char command() {
+        skipSpaces();
+        if (text_.empty()) {
+            return 0;
+        }
+        const char found = text_.front();
+        text_.remove_prefix(1);
+        return found;
+    }
+
+    double number() {
+        skipSpaces();
+        double value = 0;
+        const auto [rest, error] = std::from_chars(text_.begin(), text_.end(), value);
+        if (error != std::errc()) {
+            qFatal("An outline lacks a number before '%s'", text_.data());
+        }
+        text_.remove_prefix(static_cast<std::size_t>(rest - text_.begin()));
+        return value;
+    }
+
+    QPointF point() {
+        const double x = number();
+        return {x, number()};
+    }
+
+private:
+    void skipSpaces() { text_.remove_prefix(std::min(text_.find_first_not_of(' '), text_.size())); }
+
+    std::string_view text_;
+};
+
+void readCommand(char command, Reader& reader, QPainterPath& path) {
+    const QPointF first = command == 'Z' ? QPointF() : reader.point();
     switch (command) {
     case 'M':
         path.moveTo(first);
@@ -25,16 +59,15 @@ void readCommand(char command, std::istream& in, QPainterPath& path) {
         path.lineTo(first);
         break;
     case 'Q':
-        path.quadTo(first, readPoint(in));
+        path.quadTo(first, reader.point());
         break;
     case 'C': {
-        const QPointF second = readPoint(in);
-        path.cubicTo(first, second, readPoint(in));
+        const QPointF second = reader.point();
+        path.cubicTo(first, second, reader.point());
         break;
     }
     case 'O': {
-        double radius = 0;
-        in >> radius;
+        const double radius = reader.number();
         path.addEllipse(first, radius, radius);
         break;
     }
@@ -49,11 +82,11 @@ void readCommand(char command, std::istream& in, QPainterPath& path) {
 } // namespace
 
 QPainterPath outline(const char* commands) {
-    std::istringstream in(commands);
+    Reader reader(commands);
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    for (char command = 0; in >> command;) {
-        readCommand(command, in, path);
+    while (const char command = reader.command()) {
+        readCommand(command, reader, path);
     }
     return path;
 }

@@ -21,17 +21,41 @@ Suit suitOf(int picture) {
     return static_cast<Suit>(picture % suitCount);
 }
 
+bool isCourt(int picture) {
+    return picture < faceCount && rankOf(picture) >= firstCourtRank;
+}
+
 bool isBack(int picture) {
     return picture >= firstBackPicture;
 }
 
-void paintFace(QPainter& painter, int rank, Suit suit) {
-    paintIndex(painter, rank, suit);
-    if (rank < firstCourtRank) {
-        paintPips(painter, rank, suit);
-    } else {
-        paintCourt(painter, rank, suit);
+/// Paints what the lower half shows upside down, as far as it lies above the middle.
+void paintUpperHalf(QPainter& painter, int picture) {
+    if (picture == jokerPicture) {
+        paintJokerMark(painter);
+        return;
     }
+    paintIndex(painter, rankOf(picture), suitOf(picture));
+    if (isCourt(picture)) {
+        paintCourt(painter, rankOf(picture), suitOf(picture));
+    } else {
+        paintPairedPips(painter, rankOf(picture), suitOf(picture));
+    }
+}
+
+void paintRest(QPainter& painter, int picture) {
+    if (picture == jokerPicture) {
+        paintJester(painter);
+    } else if (!isCourt(picture)) {
+        paintSinglePips(painter, rankOf(picture), suitOf(picture));
+    }
+}
+
+void paint(QImage& image, void (*part)(QPainter&, int), int picture) {
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(image.width() / cardWidth, image.height() / cardHeight);
+    part(painter, picture);
 }
 
 } // namespace
@@ -56,14 +80,9 @@ QImage drawPicture(int picture, QSize size) {
     }
     QImage image(size, QImage::Format_RGB32);
     image.fill(white);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size.width() / cardWidth, size.height() / cardHeight);
-    if (picture == jokerPicture) {
-        paintJoker(painter);
-    } else {
-        paintFace(painter, rankOf(picture), suitOf(picture));
-    }
+    paint(image, paintUpperHalf, picture);
+    repeatUpsideDown(image, isCourt(picture) ? courtFall(size) : 0);
+    paint(image, paintRest, picture);
     return image;
 }
 

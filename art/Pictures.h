@@ -2,6 +2,7 @@
 
 #include "art/Symbols.h"
 
+#include <QColor>
 #include <QImage>
 
 #include <string>
@@ -34,8 +35,8 @@ QImage drawPicture(std::string_view key, QSize size);
 /// The colour table of a picture, of 256 entries.
 std::vector<QRgb> pictureColours(int picture);
 
-/// The program's icon, and its colour table of 16 entries.
-QImage drawIcon(QSize size);
+/// The program's icon on a ground, and its colour table of 16 entries.
+QImage drawIcon(QSize size, QColor ground = Qt::white);
 std::vector<QRgb> iconColours();
 
 } // namespace tumble

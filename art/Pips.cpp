@@ -3,7 +3,9 @@
 #include "art/Figure.h"
 #include "art/Marks.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <span>
 
 namespace tumble {
@@ -11,9 +13,9 @@ namespace tumble {
 namespace {
 
 constexpr QSizeF pipSize(15, 16);
-constexpr QSizeF acePipSize(27, 30);
+constexpr QSizeF acePipSize(33, 36);
 
-// The columns and rows of the pips; the rows of the lower half are those of the upper half turned about.
+// The columns and rows of the pips of the upper half and the middle.
 constexpr double left = 22.5;
 constexpr double middle = cardWidth / 2;
 constexpr double right = cardWidth - left;
@@ -23,7 +25,8 @@ constexpr double centre = cardHeight / 2;
 constexpr double betweenTopAndSecond = (top + second) / 2;
 constexpr double betweenTopAndCentre = (top + centre) / 2;
 
-// The pips that stand upright, for the ranks from two to ten.
+// The pips that stand upright, for the ranks from the ace to the ten.
+constexpr std::array ace = {QPointF(middle, centre)};
 constexpr std::array two = {QPointF(middle, top)};
 constexpr std::array three = {QPointF(middle, top), QPointF(middle, centre)};
 constexpr std::array four = {QPointF(left, top), QPointF(right, top)};
@@ -37,17 +40,32 @@ constexpr std::array ten = {QPointF(left, top), QPointF(right, top), QPointF(lef
                             QPointF(middle, betweenTopAndSecond)};
 
 std::span<const QPointF> uprightPips(int rank) {
-    const std::array<std::span<const QPointF>, 9> layouts = {two, three, four, five, six, seven, seven, nine, ten};
-    return layouts.at(static_cast<std::size_t>(rank) - 2);
+    const std::array<std::span<const QPointF>, 10> layouts = {ace, two,   three, four, five,
+                                                              six, seven, seven, nine, ten};
+    return layouts.at(static_cast<std::size_t>(rank) - 1);
 }
 
-/// The pips that stand upside down are the upright ones of the upper half turned, but the seven leaves its middle out.
-bool isTurnedToo(int rank, const QPointF& pip) {
+/// Whether the pip has its like in the lower half, upside down.
+bool isPaired(int rank, const QPointF& pip) {
     return pip.y() < centre && !(rank == 7 && pip.x() == middle);
 }
 
-QRectF boxAround(const QPointF& point, const QSizeF& size) {
-    return {point.x() - size.width() / 2, point.y() - size.height() / 2, size.width(), size.height()};
+/// A number of pixels near a length, such that what is as long lies in the middle of the whole on whole pixels.
+int centrable(double length, int whole) {
+    return whole - 2 * static_cast<int>(std::lround((whole - length) / 2));
+}
+
+/// Where a pip lies in pixels. All pips of a card are equally large, and columns and rows even about its middle.
+QRect pipPixels(const QPainter& painter, const QPointF& pip, const QSizeF& size) {
+    const QRect card = fitted(painter, QRectF(0, 0, cardWidth, cardHeight));
+    const QRectF exact = painter.transform().mapRect(QRectF(pip, size));
+    const int width = centrable(exact.width(), card.width());
+    const int height = centrable(exact.height(), card.height());
+    const double nearer = std::min(exact.left(), card.width() - exact.left());
+    const int x = pip.x() == middle ? (card.width() - width) / 2 : static_cast<int>(std::lround(nearer - width / 2.0));
+    const int y =
+        pip.y() == centre ? (card.height() - height) / 2 : static_cast<int>(std::lround(exact.top() - height / 2.0));
+    return {pip.x() > middle ? card.width() - width - x : x, y, width, height};
 }
 
 /// The inlay of the ace of spades: a rim that follows the spade, and a lily between scrolls. The origin is the middle.
@@ -64,32 +82,31 @@ constexpr std::array inlay = {
 void paintAceOfSpades(QPainter& painter) {
     painter.save();
     painter.translate(middle, centre);
-    painter.fillPath(suitSymbol(Suit::Spades, QRectF(-25, -32, 50, 62), Weight::Regular), QColor(black));
+    painter.fillPath(suitSymbol(Suit::Spades, QRectF(-25, -32, 50, 62)), QColor(black));
     paintPieces(painter, inlay, dressed(white, {}, {}, {}, {}));
     painter.restore();
 }
 
 } // namespace
 
-void paintPips(QPainter& painter, int rank, Suit suit) {
+void paintPairedPips(QPainter& painter, int rank, Suit suit) {
+    for (const QPointF& pip : uprightPips(rank)) {
+        if (isPaired(rank, pip)) {
+            paintSuit(painter, suit, pipPixels(painter, pip, pipSize));
+        }
+    }
+}
+
+void paintSinglePips(QPainter& painter, int rank, Suit suit) {
     if (rank == 1 && suit == Suit::Spades) {
         paintAceOfSpades(painter);
         return;
     }
-    if (rank == 1) {
-        paintSuit(painter, suit, boxAround({middle, centre}, acePipSize));
-        return;
-    }
     for (const QPointF& pip : uprightPips(rank)) {
-        paintSuit(painter, suit, boxAround(pip, pipSize));
-    }
-    turnCard(painter);
-    for (const QPointF& pip : uprightPips(rank)) {
-        if (isTurnedToo(rank, pip)) {
-            paintSuit(painter, suit, boxAround(pip, pipSize));
+        if (!isPaired(rank, pip)) {
+            paintSuit(painter, suit, pipPixels(painter, pip, rank == 1 ? acePipSize : pipSize));
         }
     }
-    turnCard(painter);
 }
 
 } // namespace tumble

@@ -88,7 +88,8 @@ TEST(GameTest, EveryDeckIsPlayedToTheWin) {
             const int afterJokers = card - deck.jokers; // the copies of a card one after the other
             const int dealt =
                 afterJokers < 0 ? card : deck.jokers + afterJokers / deck.copies + afterJokers % deck.copies * ofCopy;
-            play(table, {1310 + 150 * static_cast<float>(dealt % 39), 1010 + 1000 * static_cast<float>(dealt / 39)});
+            const int row = dealt / 39;
+            play(table, {static_cast<float>(1310 + 150 * (dealt % 39)), static_cast<float>(1010 + 1000 * row)});
         }
         EXPECT_EQ(table.messages(), "YOU WIN: CONGRATULATIONS!");
         table.drag({8300, 4900}, {4000, 3000}); // the last card off its pile and on again

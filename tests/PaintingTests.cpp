@@ -139,8 +139,8 @@ TEST(DrawingSurfaceTest, ClearsToTheBackColorOfThatMoment) {
 
 TEST(PixelScaleTest, PixelIsTheOneInWhichThePlaceLies) {
     const std::vector<std::tuple<double, float, int>> cases{
-        {1, 14.5F, 0},     {1, 15, 1},     {1, -0.5F, -1},      {1.25, 11.5F, 0},        {1.25, 12, 1}, {1.5, 10, 1},
-        {2.5, 9015, 1502}, {1.1, 150, 11}, {1, 1e30F, 1 << 20}, {2, -1e30F, -(1 << 20)}, {1, nan, 0}};
+        {1, 14.5F, 0},     {1, 15, 1},        {1, -0.5F, -1},      {1.25, 11.5F, 0},        {1.25, 12, 1}, {1.5, 10, 1},
+        {2.5, 9015, 1502}, {1.15, 5100, 391}, {1, 1e30F, 1 << 20}, {2, -1e30F, -(1 << 20)}, {1, nan, 0}};
     for (const auto& [factor, twips, pixel] : cases) {
         EXPECT_EQ(PixelScale(factor).pixel(twips), pixel) << factor << " " << twips;
     }

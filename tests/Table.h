@@ -28,7 +28,7 @@ class Table {
 public:
     Table();
 
-    CardTracker& tracker() { return *program.tableTracker; }
+    CardTracker& tracker() const { return *program.tableTracker; }
     PictureBox& picture() { return program.table().picTable; }
     const std::string& label() { return program.table().lblCurrentCard.Caption(); }
     std::string nameAt(Point at);

@@ -1,131 +1,117 @@
 // Writes pictures on which a person can judge the cards: contact-sheet OUTPUT-FOLDER
-// Says which two faces are the hardest to tell apart by the sliver that a spread leaves of them.
 
 #include "art/Pictures.h"
 
+#include <QImageWriter>
 #include <QPainter>
 #include <QString>
 
 #include <algorithm>
-#include <array>
-#include <cstdlib>
+#include <cstddef>
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <numeric>
 #include <stdexcept>
+#include <vector>
 
 namespace tumble {
 
 namespace {
 
-constexpr int sheetColumns = 13;
 constexpr int gap = 4;
-constexpr int sliverWidth = 10;
-constexpr int sliverCount = jokerPicture + 1;
-constexpr std::array sliverCardWidths = {49, 60, 82};
 constexpr QRgb ground = qRgb(30, 90, 64);
 
-void drawBorder(QImage& card) {
+QImage bordered(int picture, QSize size) {
+    QImage card = drawPicture(picture, size);
     QPainter painter(&card);
-    painter.drawRect(0, 0, card.width() - 1, card.height() - 1);
+    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
+    return card;
 }
 
-/// Every picture at a whole multiple of its size: ranks across and suits down, then the joker and the backs.
-QImage sheet(int scale) {
+QImage emptySheet(QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(ground);
+    return image;
+}
+
+/// Pictures at a whole multiple of their size, in columns of so many.
+QImage sheet(const std::vector<int>& pictures, int rows, int scale) {
     const QSize size = cardSize * scale;
     const QSize step = size + QSize(gap, gap);
-    QImage image(step.width() * sheetColumns + gap, step.height() * (suitCount + 1) + gap, QImage::Format_RGB32);
-    image.fill(ground);
+    const int count = static_cast<int>(pictures.size());
+    QImage image = emptySheet({(count + rows - 1) / rows * step.width() + gap, rows * step.height() + gap});
     QPainter painter(&image);
-    for (int picture = 0; picture < pictureCount; ++picture) {
-        const bool isFace = picture < faceCount;
-        const int column = isFace ? picture / suitCount : picture - faceCount;
-        const int row = isFace ? picture % suitCount : suitCount;
-        QImage card = drawPicture(picture, size);
-        drawBorder(card);
-        painter.drawImage(gap + column * step.width(), gap + row * step.height(), card);
+    for (int i = 0; i < count; ++i) {
+        painter.drawImage(gap + i / rows * step.width(), gap + i % rows * step.height(),
+                          bordered(pictures[static_cast<std::size_t>(i)], size));
     }
     return image;
 }
 
-/// What a spread shows of the upper half of each face when the cards are reduced or enlarged to a width.
-std::vector<QImage> slivers(int width) {
-    const QSize size(width, (width * cardSize.height() + cardSize.width() / 2) / cardSize.width());
-    std::vector<QImage> strips;
-    for (int picture = 0; picture < sliverCount; ++picture) {
-        QImage card = drawPicture(picture, cardSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        drawBorder(card);
-        strips.push_back(card.copy(0, 0, sliverWidth, size.height() / 2));
+/// One below the other.
+QImage stacked(const std::vector<QImage>& images) {
+    QSize size(0, 0);
+    for (const QImage& image : images) {
+        size = QSize(std::max(size.width(), image.width()), size.height() + image.height());
     }
-    return strips;
-}
-
-bool clearlyDiffer(QRgb a, QRgb b) {
-    constexpr int clear = 64;
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))}) >=
-           clear;
-}
-
-int differences(const QImage& a, const QImage& b) {
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += clearlyDiffer(a.pixel(x, y), b.pixel(x, y)) ? 1 : 0;
-        }
+    QImage whole = emptySheet(size);
+    QPainter painter(&whole);
+    int y = 0;
+    for (const QImage& image : images) {
+        painter.drawImage(0, y, image);
+        y += image.height();
     }
-    return count;
+    return whole;
 }
 
-void reportWorstPair(int width) {
-    const std::vector<QImage> strips = slivers(width);
-    int fewest = sliverWidth * cardSize.height();
-    std::string pair;
-    for (int first = 0; first < sliverCount; ++first) {
-        for (int second = first + 1; second < sliverCount; ++second) {
-            const int count =
-                differences(strips[static_cast<std::size_t>(first)], strips[static_cast<std::size_t>(second)]);
-            if (count < fewest) {
-                fewest = count;
-                pair = pictureKey(first) + " and " + pictureKey(second);
-            }
-        }
-    }
-    std::cout << width << " pixels wide: " << pair << " differ in " << fewest << " pixels\n";
+/// All pictures, all at twice their size, and four times as large those that have more to them than pips.
+QImage cards() {
+    std::vector<int> all(pictureCount);
+    std::iota(all.begin(), all.end(), 0);
+    std::vector<int> rich(all.begin() + std::ptrdiff_t{10} * suitCount, all.end());
+    rich.push_back(static_cast<int>(Suit::Spades));
+    return stacked({sheet(all, suitCount, 1), sheet(all, suitCount, 2), sheet(rich, 3, 4)});
 }
 
-/// The slivers at each width, magnified.
-QImage sliverSheet() {
+/// What a spread shows of the faces, at three sizes of the card: magnified, and as it is.
+QImage slivers() {
     constexpr int magnified = 3;
-    constexpr QSize step = QSize(sliverWidth + 1, 70) * magnified;
-    QImage image(sliverCount * step.width(), static_cast<int>(sliverCardWidths.size()) * step.height(),
-                 QImage::Format_RGB32);
-    image.fill(ground);
-    QPainter painter(&image);
-    QPoint corner(0, 0);
-    for (const int width : sliverCardWidths) {
-        for (const QImage& strip : slivers(width)) {
-            painter.drawImage(corner, strip.scaled(strip.size() * magnified));
-            corner.rx() += step.width();
+    constexpr QSize strip(10, 66);
+    std::vector<QImage> rows;
+    for (const QSize size : {QSize(49, 76), QSize(60, 94), QSize(83, 128)}) {
+        QImage row = emptySheet({(jokerPicture + 1) * strip.width() + gap, strip.height() + gap});
+        QPainter painter(&row);
+        for (int picture = 0; picture <= jokerPicture; ++picture) {
+            painter.drawImage(picture * strip.width(), 0, bordered(picture, size).copy(QRect({0, 0}, strip)));
         }
-        corner = QPoint(0, corner.y() + step.height());
+        painter.end();
+        rows.push_back(row.scaled(row.size() * magnified));
+        rows.push_back(row);
     }
-    return image;
+    return stacked(rows);
+}
+
+/// As many colours as fit into a small file.
+QImage reduced(const QImage& image) {
+    constexpr std::size_t inks = 240;
+    std::vector<QRgb> colours = pictureColours(0);
+    colours.resize(inks);
+    colours.push_back(ground);
+    for (int back = firstBackPicture; back < pictureCount; ++back) {
+        const std::vector<QRgb> table = pictureColours(back);
+        colours.insert(colours.end(), table.begin(), table.begin() + 3);
+    }
+    return image.convertToFormat(QImage::Format_Indexed8, QList<QRgb>(colours.begin(), colours.end()),
+                                 Qt::ThresholdDither | Qt::AvoidDither);
 }
 
 void save(const QImage& image, const std::filesystem::path& file) {
-    if (!image.save(QString::fromStdString(file.string()))) {
+    constexpr int smallest = 100;
+    QImageWriter writer(QString::fromStdString(file.string()));
+    writer.setCompression(smallest);
+    if (!writer.write(reduced(image))) {
         throw std::runtime_error("cannot write " + file.string());
-    }
-}
-
-void writeSheets(const std::filesystem::path& folder) {
-    std::filesystem::create_directories(folder);
-    for (const int scale : {1, 2, 4}) {
-        save(sheet(scale), folder / ("cards" + std::to_string(scale) + "x.png"));
-    }
-    save(sliverSheet(), folder / "slivers.png");
-    for (const int width : sliverCardWidths) {
-        reportWorstPair(width);
     }
 }
 
@@ -139,7 +125,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        tumble::writeSheets(argv[1]);
+        const std::filesystem::path folder = argv[1];
+        std::filesystem::create_directories(folder);
+        tumble::save(tumble::cards(), folder / "cards.png");
+        tumble::save(tumble::slivers(), folder / "slivers.png");
     } catch (const std::exception& error) {
         std::cerr << "contact-sheet: " << error.what() << '\n';
         return 1;

@@ -1,10 +1,42 @@
-// Writes the pictures of the cards and the icon as GIF files: draw-cards OUTPUT-FOLDER
+// Writes the pictures of the cards and the icon as GIF files, and the icon in other sizes: draw-cards OUTPUT-FOLDER
 
+#include "art/Icon.h"
 #include "art/Pictures.h"
 #include "tools/Gif.h"
+#include "tools/Svg.h"
+
+#include <QString>
 
 #include <exception>
 #include <iostream>
+#include <stdexcept>
+
+namespace tumble {
+
+namespace {
+
+void writePictures(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    for (int picture = 0; picture < pictureCount; ++picture) {
+        writeGif(drawPicture(picture, cardSize), pictureColours(picture), folder / (pictureKey(picture) + ".gif"));
+    }
+    writeGif(drawIcon({32, 32}), iconColours(), folder / "tumble.gif");
+}
+
+void writeIcons(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    writeSvg(iconShapes(), iconWidth, folder / "tumble.svg");
+    for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
+        const std::filesystem::path file = folder / ("tumble-" + std::to_string(width) + ".png");
+        if (!drawIcon({width, width}, Qt::transparent).save(QString::fromStdString(file.string()))) {
+            throw std::runtime_error("cannot write " + file.string());
+        }
+    }
+}
+
+} // namespace
+
+} // namespace tumble
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -13,12 +45,8 @@ int main(int argc, char** argv) {
     }
     try {
         const std::filesystem::path folder = argv[1];
-        std::filesystem::create_directories(folder);
-        for (int picture = 0; picture < tumble::pictureCount; ++picture) {
-            tumble::writeGif(tumble::drawPicture(picture, tumble::cardSize), tumble::pictureColours(picture),
-                             folder / (tumble::pictureKey(picture) + ".gif"));
-        }
-        tumble::writeGif(tumble::drawIcon({32, 32}), tumble::iconColours(), folder / "tumble.gif");
+        tumble::writePictures(folder);
+        tumble::writeIcons(folder / "icons");
     } catch (const std::exception& error) {
         std::cerr << "draw-cards: " << error.what() << '\n';
         return 1;

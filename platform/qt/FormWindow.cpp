@@ -37,10 +37,13 @@ Place roomOf(const OptionButton& option) {
     Place room = option.place();
     float free = room.Height;
     for (const AnyControl& any : option.container().controls()) {
-        const Place& other = std::visit([](const Control* control) { return control->place(); }, any);
-        const float gap = std::max(other.Top - (room.Top + room.Height), room.Top - (other.Top + other.Height));
-        const bool sideways = other.Left >= room.Left + room.Width || room.Left >= other.Left + other.Width;
-        free = gap >= 0 && !sideways ? std::min(free, gap) : free;
+        const Control& other = *std::visit([](const Control* control) { return control; }, any);
+        const auto& [left, top, width, height] = other.place();
+        const bool sideways = left >= room.Left + room.Width || room.Left >= left + width;
+        if (&other != &option && !sideways) {
+            const float gap = std::max(top - (room.Top + room.Height), room.Top - (top + height));
+            free = std::clamp(gap, 0.0F, free);
+        }
     }
     return {room.Left, room.Top - free / 2, room.Width, room.Height + free};
 }

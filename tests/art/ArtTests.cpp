@@ -1,0 +1,211 @@
+#include "art/Pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tumble {
+
+namespace {
+
+/// The sizes in pixels of the three cards that the game shows, and what they become between two pixels.
+constexpr std::array shownSizes = {QSize(49, 76),  QSize(50, 77),  QSize(60, 94),   QSize(61, 94),
+                                   QSize(83, 128), QSize(84, 129), QSize(124, 192), QSize(165, 256)};
+
+QImage fileImage(const std::string& name) {
+    return QImage(QString::fromStdString(TUMBLE_ASSETS "/" + name)).convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The greatest difference in a channel.
+int difference(QRgb a, QRgb b) {
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b)),
+                     std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+/// How many pixels of the area differ by at least that much.
+int differences(const QImage& a, const QImage& b, int least, const QRect& area) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            count += difference(a.pixel(x, y), b.pixel(x, y)) >= least ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+int differences(const QImage& a, const QImage& b, int least) {
+    return differences(a, b, least, a.rect());
+}
+
+std::string suitName(int picture) {
+    const std::string key = pictureKey(picture);
+    return key.substr(key.find_last_of("CDHSJ"));
+}
+
+bool isCourt(int picture) {
+    return picture >= 10 * suitCount && picture < faceCount;
+}
+
+/// The parts of the inks of which a colour is mixed.
+struct Mixture {
+    double black;
+    double red;
+    double yellow;
+    double white;
+};
+
+Mixture mixtureOf(QRgb colour) {
+    const double whites = qBlue(colour) / 255.0;
+    const double yellows = (qGreen(colour) - qBlue(colour)) / 208.0;
+    const double reds = (qRed(colour) - qGreen(colour) - 47 * yellows) / 208.0;
+    return {1 - whites - yellows - reds, reds, yellows, whites};
+}
+
+std::set<QRgb> coloursOf(const QImage& image) {
+    std::set<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            colours.insert(image.pixel(x, y));
+        }
+    }
+    return colours;
+}
+
+} // namespace
+
+// The files hold fewer colours than the drawings, and releases of the toolkit smooth edges a little differently.
+TEST(Assets, AreWhatTheProgramDraws) {
+    constexpr int clear = 64;
+    const auto expectDrawn = [](const std::string& name, const QImage& drawn) {
+        const QImage file = fileImage(name);
+        ASSERT_EQ(file.size(), drawn.size()) << name;
+        EXPECT_LE(differences(file, drawn.convertToFormat(QImage::Format_ARGB32), clear), 5) << name;
+    };
+    for (int picture = 0; picture < pictureCount; ++picture) {
+        expectDrawn(pictureKey(picture) + ".gif", drawPicture(picture, QSize(81, 126)));
+    }
+    expectDrawn("tumble.gif", drawPicture("Tumble", QSize(32, 32)));
+    for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
+        expectDrawn("icons/tumble-" + std::to_string(width) + ".png", drawIcon({width, width}, Qt::transparent));
+    }
+}
+
+TEST(Assets, FacesAreMixedOfTheirInksAlone) {
+    constexpr double trace = 0.04;
+    for (int picture = 0; picture <= jokerPicture; ++picture) {
+        const bool isColourful = isCourt(picture) || picture == jokerPicture;
+        const bool isRed = suitName(picture) == "Diamonds" || suitName(picture) == "Hearts";
+        for (const QRgb colour : coloursOf(fileImage(pictureKey(picture) + ".gif"))) {
+            const Mixture parts = mixtureOf(colour);
+            EXPECT_GE(std::min({parts.black, parts.red, parts.yellow, parts.white}), -trace)
+                << pictureKey(picture) << std::hex << colour;
+            EXPECT_LE(isColourful ? 0 : parts.yellow, trace) << pictureKey(picture) << std::hex << colour;
+            EXPECT_LE(isColourful ? 0
+                      : isRed     ? parts.black
+                                  : parts.red,
+                      trace)
+                << pictureKey(picture) << std::hex << colour;
+        }
+    }
+}
+
+TEST(Assets, BacksHaveThreeColoursEach) {
+    const std::array<std::set<QRgb>, backCount> expected = {{
+        {qRgb(192, 192, 255), qRgb(0, 0, 255), qRgb(255, 255, 0)},
+        {qRgb(255, 255, 128), qRgb(128, 255, 255), qRgb(0, 255, 0)},
+        {qRgb(255, 128, 64), qRgb(255, 0, 128), qRgb(128, 64, 0)},
+        {qRgb(0, 255, 128), qRgb(128, 128, 0), qRgb(0, 128, 0)},
+    }};
+    for (std::size_t back = 0; back < backCount; ++back) {
+        EXPECT_EQ(coloursOf(fileImage("CardBack" + std::to_string(back + 1) + ".gif")), expected.at(back));
+    }
+}
+
+// Cards that lie face down turned about, or painted a pixel wider, must not give themselves away.
+TEST(Pictures, BacksLookTheSameFromEverySide) {
+    for (int picture = firstBackPicture; picture < pictureCount; ++picture) {
+        for (const QSize size : shownSizes) {
+            const QImage back = drawPicture(picture, size);
+            EXPECT_EQ(back, back.mirrored(true, false)) << pictureKey(picture) << size.width();
+            EXPECT_EQ(back, back.mirrored(false, true)) << pictureKey(picture) << size.width();
+        }
+    }
+}
+
+TEST(Pictures, FacesWithEqualHalvesAreTheSameUpsideDown) {
+    for (int picture = 0; picture < faceCount; ++picture) {
+        const int rank = picture / suitCount + 1;
+        if (isCourt(picture) || rank == 2 || rank == 4 || rank == 10) {
+            for (const QSize size : shownSizes) {
+                const QImage face = drawPicture(picture, size);
+                EXPECT_EQ(face, face.mirrored(true, true)) << pictureKey(picture) << size.width();
+            }
+        }
+    }
+}
+
+TEST(Pictures, PipsLieEvenlyAboutTheMiddle) {
+    constexpr int smoothing = 48;
+    for (int picture = 0; picture < 10 * suitCount; ++picture) {
+        for (const QSize size : shownSizes) {
+            const QImage face = drawPicture(picture, size);
+            const int index = size.width() / 7 + 1;
+            EXPECT_EQ(
+                differences(face, face.mirrored(true, false), smoothing, face.rect().adjusted(index, 0, -index, 0)), 0)
+                << pictureKey(picture) << size.width();
+        }
+    }
+}
+
+TEST(Pictures, FacesLeaveTheBorderFree) {
+    for (int picture = 0; picture <= jokerPicture; ++picture) {
+        for (const QSize size : shownSizes) {
+            QImage face = drawPicture(picture, size);
+            for (int y = 1; y < size.height() - 1; ++y) {
+                std::fill_n(reinterpret_cast<QRgb*>(face.scanLine(y)) + 1, size.width() - 2, qRgb(255, 255, 255));
+            }
+            EXPECT_EQ(coloursOf(face), std::set{qRgb(255, 255, 255)}) << pictureKey(picture) << size.width();
+        }
+    }
+}
+
+// A spread leaves ten columns of each card to see, the first of them its border, and the next row covers what lies
+// more than 1000 twips below the top.
+TEST(Pictures, SliversOfAnyTwoFacesDiffer) {
+    constexpr int clear = 64;
+    constexpr QRect sliver(1, 1, 9, 1000 / 15 - 1);
+    for (const QSize size : {QSize(49, 76), QSize(60, 94), QSize(82, 127), QSize(83, 128), QSize(84, 129)}) {
+        std::vector<QImage> faces;
+        for (int picture = 0; picture <= jokerPicture; ++picture) {
+            faces.push_back(drawPicture(picture, size));
+        }
+        for (std::size_t first = 0; first < faces.size(); ++first) {
+            for (std::size_t second = first + 1; second < faces.size(); ++second) {
+                EXPECT_GE(differences(faces[first], faces[second], clear, sliver), 6)
+                    << pictureKey(static_cast<int>(first)) << " and " << pictureKey(static_cast<int>(second)) << " at "
+                    << size.width();
+            }
+        }
+    }
+}
+
+TEST(Pictures, AreDrawnAtAnySizeAndByTheirNamesAlone) {
+    for (const QSize size : {QSize(1, 1), QSize(2, 3), QSize(7, 5), QSize(490, 763)}) {
+        for (int picture = 0; picture < pictureCount; ++picture) {
+            EXPECT_EQ(drawPicture(pictureKey(picture), size).size(), size) << pictureKey(picture);
+        }
+    }
+    EXPECT_EQ(drawPicture("Tumble", QSize(1, 1)).size(), QSize(1, 1));
+    for (const char* key : {"", "OneClubs", "CardBack5", "joker"}) {
+        EXPECT_TRUE(drawPicture(key, QSize(81, 126)).isNull()) << key;
+    }
+}
+
+} // namespace tumble

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "art/Icon.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace tumble {
+
+/// Writes filled shapes as a square SVG picture of that width.
+void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem::path& file);
+
+} // namespace tumble
