@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tumble {
@@ -76,17 +77,15 @@ protected:
         mouse(QTest::MouseRelease, to.x, to.y, Qt::LeftButton);
     }
 
+    Windows() {
+        waiting.setInterval(1);
+        waiting.callOnTimeout(&waiting, [this] { closeMessage(); });
+    }
+
     /// Keeps the text of the message box that opens next, does something while it is open and closes it.
-    void closeNextMessage(const std::function<void()>& meanwhile = [] {}) {
-        QTimer::singleShot(1, &lifetime, [this, meanwhile] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                messages.push_back(box->text().toStdString());
-                meanwhile();
-                box->accept();
-            } else {
-                closeNextMessage(meanwhile);
-            }
-        });
+    void closeNextMessage(std::function<void()> whileOpen = {}) {
+        meanwhile = std::move(whileOpen);
+        waiting.start();
     }
 
     /// True when the application has been ended: its run is over before this can stop it.
@@ -96,17 +95,31 @@ protected:
             stopped = true;
             QCoreApplication::exit();
         };
-        QTimer::singleShot(0, &lifetime, stop);
+        QTimer::singleShot(0, &waiting, stop);
         desktop.run();
         const bool result = !stopped;
         // Once round the toolkit's own loop, which otherwise stays ended for the tests to come.
-        QTimer::singleShot(0, &lifetime, stop);
+        QTimer::singleShot(0, &waiting, stop);
         QCoreApplication::exec();
         return result;
     }
 
     std::vector<std::string> messages;
-    QObject lifetime; // of what waits for a message box
+
+private:
+    void closeMessage() {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            waiting.stop();
+            messages.push_back(box->text().toStdString());
+            if (meanwhile) {
+                meanwhile();
+            }
+            box->accept();
+        }
+    }
+
+    QTimer waiting; // for a message box
+    std::function<void()> meanwhile;
 };
 
 } // namespace tumble
