@@ -11,7 +11,6 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <numeric>
 #include <stdexcept>
 #include <vector>
 
@@ -35,16 +34,16 @@ QImage emptySheet(QSize size) {
     return image;
 }
 
-/// Pictures at a whole multiple of their size, in columns of so many.
-QImage sheet(const std::vector<int>& pictures, int rows, int scale) {
+/// All pictures at a whole multiple of their size, a suit in each row.
+QImage sheet(int scale) {
     const QSize size = cardSize * scale;
     const QSize step = size + QSize(gap, gap);
-    const int count = static_cast<int>(pictures.size());
-    QImage image = emptySheet({(count + rows - 1) / rows * step.width() + gap, rows * step.height() + gap});
+    constexpr int columns = (pictureCount + suitCount - 1) / suitCount;
+    QImage image = emptySheet({columns * step.width() + gap, suitCount * step.height() + gap});
     QPainter painter(&image);
-    for (int i = 0; i < count; ++i) {
-        painter.drawImage(gap + i / rows * step.width(), gap + i % rows * step.height(),
-                          bordered(pictures[static_cast<std::size_t>(i)], size));
+    for (int picture = 0; picture < pictureCount; ++picture) {
+        painter.drawImage(gap + picture / suitCount * step.width(), gap + picture % suitCount * step.height(),
+                          bordered(picture, size));
     }
     return image;
 }
@@ -63,15 +62,6 @@ QImage stacked(const std::vector<QImage>& images) {
         y += image.height();
     }
     return whole;
-}
-
-/// All pictures, all at twice their size, and four times as large those that have more to them than pips.
-QImage cards() {
-    std::vector<int> all(pictureCount);
-    std::iota(all.begin(), all.end(), 0);
-    std::vector<int> rich(all.begin() + std::ptrdiff_t{10} * suitCount, all.end());
-    rich.push_back(static_cast<int>(Suit::Spades));
-    return stacked({sheet(all, suitCount, 1), sheet(all, suitCount, 2), sheet(rich, 3, 4)});
 }
 
 /// What a spread shows of the faces, at three sizes of the card: magnified, and as it is.
@@ -127,7 +117,7 @@ int main(int argc, char** argv) {
     try {
         const std::filesystem::path folder = argv[1];
         std::filesystem::create_directories(folder);
-        tumble::save(tumble::cards(), folder / "cards.png");
+        tumble::save(tumble::stacked({tumble::sheet(1), tumble::sheet(2), tumble::sheet(4)}), folder / "cards.png");
         tumble::save(tumble::slivers(), folder / "slivers.png");
     } catch (const std::exception& error) {
         std::cerr << "contact-sheet: " << error.what() << '\n';
