@@ -19,11 +19,22 @@ std::string colourName(Colour colour) {
 }
 
 std::string at(Point point) {
-    return " " + inWords(point.x) + "," + inWords(point.y);
+    std::ostringstream text;
+    text << " " << point.x << "," << point.y;
+    return text.str();
 }
 
 std::string at(const Rect& box) {
     return at(Point{box.left, box.top}) + at(Point{box.right, box.bottom});
+}
+
+template<class Items>
+std::string joined(const Items& items, auto inWords) {
+    std::string words;
+    for (const auto& item : items) {
+        words += (words.empty() ? "" : "; ") + inWords(item);
+    }
+    return words;
 }
 
 struct InFull {
@@ -34,7 +45,7 @@ struct InFull {
         return "line" + at(op.from) + at(op.to) + " " + colourName(op.colour);
     }
     std::string operator()(const CircleOperation& op) const {
-        return "circle" + at(op.centre) + " " + inWords(op.radius) + " " + colourName(op.colour);
+        return "circle" + at({op.centre.x, op.centre.y, op.radius, op.radius}) + " " + colourName(op.colour);
     }
 };
 
@@ -56,30 +67,14 @@ std::string whatItShows(const std::vector<Operation>& operations) {
 
 } // namespace
 
-std::string inWords(float number) {
-    std::ostringstream text;
-    text << number;
-    return text.str();
-}
-
-std::string inWords(const PaintItem& item) {
-    return whatItShows(item.operations) + at(Point{item.place.left, item.place.top});
-}
-
 std::string inWords(const std::vector<PaintItem>& items) {
-    std::string words;
-    for (const PaintItem& item : items) {
-        words += (words.empty() ? "" : "; ") + inWords(item);
-    }
-    return words;
+    return joined(items, [](const PaintItem& item) {
+        return whatItShows(item.operations) + at(Point{item.place.left, item.place.top});
+    });
 }
 
 std::string inFull(const PaintItem& item) {
-    std::string words;
-    for (const Operation& operation : item.operations) {
-        words += (words.empty() ? "" : "; ") + std::visit(InFull(), operation);
-    }
-    return words;
+    return joined(item.operations, [](const Operation& operation) { return std::visit(InFull(), operation); });
 }
 
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit) {
@@ -143,11 +138,7 @@ std::string Table::cards() {
 }
 
 std::string Table::messages() {
-    std::string words;
-    for (const auto& [text, caption] : desktop.takeMessages()) {
-        words += (words.empty() ? "" : "; ") + caption + ": " + text;
-    }
-    return words;
+    return joined(desktop.takeMessages(), [](const auto& message) { return message.caption + ": " + message.text; });
 }
 
 } // namespace tumble

@@ -11,13 +11,10 @@
 
 namespace tumble {
 
-/// What an item shows and where its place begins: "AceSpades 100,200", "edge of 3 0,0", "marked yellow 0,8.5".
-std::string inWords(const PaintItem& item);
+/// What items show and where their places begin: "AceSpades 100,200; edge of 3 0,0; marked yellow 0,8.5".
+std::string inWords(const std::vector<PaintItem>& items);
 /// Everything an item paints: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
 std::string inFull(const PaintItem& item);
-/// What the items show, parted by semicolons.
-std::string inWords(const std::vector<PaintItem>& items);
-std::string inWords(float number);
 
 using Cards = std::vector<std::shared_ptr<Card>>;
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit);
