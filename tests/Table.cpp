@@ -95,17 +95,17 @@ Table::Table() {
     desktop.keepLog();
 }
 
-std::string Table::nameAt(Point at) {
+std::string Table::nameAt(Point at) const {
     const auto crd = tracker().identifyCard(at.x, at.y);
     return crd == nullptr ? "" : crd->getStr();
 }
 
-void Table::lay(CardRank rank, CardSuit suit, float X, float Y) {
+void Table::lay(CardRank rank, CardSuit suit, float X, float Y) const {
     tracker().addCard(rank, suit, X, Y, csSmall, fdFaceUp, bsFirst);
 }
 
 std::shared_ptr<CardPack> Table::layPile(float X, float Y, const Cards& cards,
-                                         const std::shared_ptr<PileAccepter>& accepter) {
+                                         const std::shared_ptr<PileAccepter>& accepter) const {
     auto pile = std::make_shared<CardPack>();
     pile->tracker(&tracker());
     pile->accepter(accepter);

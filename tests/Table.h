@@ -28,13 +28,13 @@ public:
     CardTracker& tracker() const { return *program.tableTracker; }
     PictureBox& picture() { return program.table().picTable; }
     const std::string& label() { return program.table().lblCurrentCard.Caption(); }
-    std::string nameAt(Point at);
+    std::string nameAt(Point at) const;
 
     /// Lays a small card, face up, with its top left corner at the place.
-    void lay(CardRank rank, CardSuit suit, float X, float Y);
+    void lay(CardRank rank, CardSuit suit, float X, float Y) const;
     /// Lays a pile of small cards, the bottom one first, with its top left corner at the place.
     std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
-                                      const std::shared_ptr<PileAccepter>& accepter = nullptr);
+                                      const std::shared_ptr<PileAccepter>& accepter = nullptr) const;
 
     void press(Point at, std::int16_t button = 1) { picture().MouseDown(button, 0, at.x, at.y); }
     void move(Point to) { picture().MouseMove(0, 0, to.x, to.y); }
