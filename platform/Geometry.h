@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace tumble {
@@ -30,6 +31,17 @@ struct Rect {
 
     bool contains(const Rect& other) const {
         return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
+    }
+
+    /// The smallest rectangle that holds both; an empty one adds nothing.
+    Rect joined(const Rect& other) const {
+        if (empty() || other.empty()) {
+            return empty() ? other : *this;
+        }
+        return {.left = std::min(left, other.left),
+                .top = std::min(top, other.top),
+                .right = std::max(right, other.right),
+                .bottom = std::max(bottom, other.bottom)};
     }
 
     /// True when less than `gap` twips of space lie between the two; with no gap, when they share a point.

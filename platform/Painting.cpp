@@ -1,9 +1,16 @@
 #include "platform/Painting.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace tumble {
+
+namespace {
+
+constexpr std::size_t fewItems = 64;
+
+} // namespace
 
 bool PaintItem::opaque() const {
     if (operations.empty()) {
@@ -28,35 +35,80 @@ void Painting::add(const PaintItem& item) {
     if (item.place.empty() || !bounds_.meets(item.place, twipsPerPixel)) {
         return;
     }
-    if (item.opaque()) {
-        std::erase_if(items_, [&](const PaintItem& earlier) { return item.place.contains(earlier.place); });
-    }
     items_.push_back(item);
-    removeIdleErasures();
+    if (items_.size() > 2 * settled_ + fewItems) {
+        prune();
+    }
 }
 
 void Painting::clear(Colour ground) {
     items_.clear();
+    settled_ = 0;
     ground_ = ground;
+}
+
+const std::vector<PaintItem>& Painting::items() const {
+    if (settled_ != items_.size()) {
+        prune();
+    }
+    return items_;
 }
 
 // One pass in list order is enough: an erasure that goes can set free only later ones. Two places less than a pixel
 // apart can share a pixel, so they count as meeting; no scale is below 1, where a pixel is largest.
-void Painting::removeIdleErasures() {
-    auto kept = items_.begin();
-    for (auto item = items_.begin(); item != items_.end(); ++item) {
-        const auto meetsItem = [&](const PaintItem& earlier) {
-            return earlier.place.meets(item->place, twipsPerPixel);
-        };
-        if (item->erases(ground_) && std::none_of(items_.begin(), kept, meetsItem)) {
+void Painting::prune() const {
+    std::vector<Rect> covers; // of the new items; empty for one that something beneath shows through
+    for (std::size_t i = settled_; i < items_.size(); ++i) {
+        covers.push_back(items_[i].opaque() ? items_[i].place : Rect());
+    }
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        PaintItem& item = items_[i];
+        const std::size_t firstLater = std::max(i + 1, settled_) - settled_;
+        const bool covered = std::any_of(covers.begin() + static_cast<std::ptrdiff_t>(firstLater), covers.end(),
+                                         [&](const Rect& cover) { return cover.contains(item.place); });
+        const auto meetsItem = [&](const PaintItem& earlier) { return earlier.place.meets(item.place, twipsPerPixel); };
+        const auto lastKept = items_.begin() + static_cast<std::ptrdiff_t>(kept);
+        if (covered || (item.erases(ground_) && std::none_of(items_.begin(), lastKept, meetsItem))) {
             continue;
         }
-        if (kept != item) {
-            *kept = std::move(*item);
+        if (kept != i) {
+            items_[kept] = std::move(item);
         }
         ++kept;
     }
-    items_.erase(kept, items_.end());
+    items_.resize(kept);
+    settled_ = kept;
+}
+
+// Items that stand at the same position in lists of the same length, or at both ends of others, look the same wherever
+// none of the rest lies.
+Rect Painting::changedSince(const Painting& before) const {
+    if (ground_ != before.ground_) {
+        return bounds_;
+    }
+    const auto& was = before.items();
+    const auto& is = items();
+    const std::size_t common = std::min(was.size(), is.size());
+    std::size_t head = 0;
+    while (head < common && was[head] == is[head]) {
+        ++head;
+    }
+    std::size_t tail = 0;
+    while (tail < common - head && was[was.size() - 1 - tail] == is[is.size() - 1 - tail]) {
+        ++tail;
+    }
+    Rect changed;
+    const auto join = [&](const std::vector<PaintItem>& items) {
+        for (std::size_t i = head; i + tail < items.size(); ++i) {
+            if (was.size() != is.size() || was[i] != is[i]) {
+                changed = changed.joined(items[i].place);
+            }
+        }
+    };
+    join(was);
+    join(is);
+    return changed;
 }
 
 } // namespace tumble

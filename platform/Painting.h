@@ -2,6 +2,7 @@
 
 #include "platform/Geometry.h"
 
+#include <cstddef>
 #include <variant>
 #include <vector>
 
@@ -68,22 +69,28 @@ public:
     /// An empty painting; `width` and `height` of the surface in twips.
     Painting(float width, float height, Colour ground);
 
-    /// Lays an item over the painting and lets go of those that no longer show. An item with an empty place, or with
-    /// one that lies wholly off the surface, adds nothing.
+    /// Lays an item over the painting. An item with an empty place, or with one that lies wholly off the surface, adds
+    /// nothing.
     void add(const PaintItem& item);
     void clear(Colour ground);
 
     /// The whole surface, in twips.
     Rect bounds() const { return bounds_; }
     Colour ground() const { return ground_; }
-    const std::vector<PaintItem>& items() const { return items_; }
+    const std::vector<PaintItem>& items() const;
+
+    /// Where the painting may look other than `before`, in twips; empty when it does nowhere.
+    Rect changedSince(const Painting& before) const;
 
 private:
-    void removeIdleErasures();
+    void prune() const;
 
     Rect bounds_;
     Colour ground_;
-    std::vector<PaintItem> items_;
+    // The first `settled_` still show. Of the rest some may not: they are looked through all at once, when somebody
+    // asks or when they have become many.
+    mutable std::vector<PaintItem> items_;
+    mutable std::size_t settled_ = 0;
 };
 
 } // namespace tumble

@@ -69,6 +69,31 @@ TEST(PaintingTest, ListsWhatStillShows) {
     }
 }
 
+TEST(PaintingTest, TellsWhereItChanged) {
+    const PaintItem A = fill({0, 0, 9, 9}, red);
+    const PaintItem B = fill({100, 0, 109, 9}, red);
+    const PaintItem C = fill({200, 0, 209, 9}, red);
+    const PaintItem blueB = fill({100, 0, 109, 9}, blue);
+    const PaintItem open{{100, 0, 109, 9}, {}};
+    const Rect none;
+    const std::vector<std::tuple<std::vector<PaintItem>, std::vector<PaintItem>, Rect>> cases{
+        {{A, B, C}, {A, B, C}, none},           {{A, B, C}, {A, blueB, C}, {100, 0, 109, 9}},
+        {{A, B, C}, {C, B, A}, {0, 0, 209, 9}}, {{A, B}, {A, fill({100, 50, 109, 59}, red)}, {100, 0, 109, 59}},
+        {{A, B, C}, {A, C}, {100, 0, 109, 9}},  {{A, C}, {A, B, C}, {100, 0, 109, 9}},
+        {{open}, {open, open}, open.place},     {{}, {B, C}, {100, 0, 209, 9}}};
+    const auto painted = [](const std::vector<PaintItem>& items) {
+        Painting painting(3000, 2000, tableGreen);
+        for (const PaintItem& item : items) {
+            painting.add(item);
+        }
+        return painting;
+    };
+    for (const auto& [before, after, changed] : cases) {
+        EXPECT_EQ(painted(after).changedSince(painted(before)), changed) << inWords(before) << " to " << inWords(after);
+    }
+    EXPECT_EQ(Painting(3000, 2000, red).changedSince(Painting(3000, 2000, blue)), (Rect{0, 0, 2999, 1999}));
+}
+
 TEST(PaintingTest, ListShowsAGameAsEverythingPaintedInItAndStaysShort) {
     Table table;
     table.program.startGame(csSmall, bsFirst, fdFaceUp, dt24Card, soNatural, lsSpread);
@@ -174,6 +199,26 @@ TEST(PixelRectTest, SidesOfABoxLieInsideIt) {
     const PixelRect small{0, 0, 1, 1};
     EXPECT_EQ(boxSides(small, 3), (std::array{small, small, small, small}));
     EXPECT_EQ((PixelRect{10, 20, 30, 40}.intersected({15, 10, 40, 35})), (PixelRect{15, 20, 30, 35}));
+}
+
+TEST(PixelRectTest, ACoverLeavesTheBlockThatHoldsTheRest) {
+    const PixelRect block{10, 20, 30, 40};
+    const std::vector<std::pair<PixelRect, PixelRect>> cases{{{10, 20, 15, 40}, {16, 20, 30, 40}},
+                                                             {{25, 0, 30, 99}, {10, 20, 24, 40}},
+                                                             {{0, 20, 30, 25}, {10, 26, 30, 40}},
+                                                             {{10, 35, 99, 40}, {10, 20, 30, 34}},
+                                                             {{15, 20, 20, 40}, block},
+                                                             {{10, 25, 30, 30}, block},
+                                                             {{10, 21, 15, 40}, block},
+                                                             {{10, 20, 15, 39}, block},
+                                                             {{11, 20, 30, 25}, block},
+                                                             {{10, 20, 29, 25}, block},
+                                                             {{31, 20, 40, 40}, block},
+                                                             {{10, 0, 30, 19}, block}};
+    for (const auto& [cover, rest] : cases) {
+        EXPECT_EQ(block.without(cover), rest) << cover.left << "," << cover.top;
+    }
+    EXPECT_TRUE(block.without(block).empty());
 }
 
 } // namespace

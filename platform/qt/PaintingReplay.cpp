@@ -8,47 +8,70 @@ namespace tumble {
 
 namespace {
 
-/// Paints the operations of one item.
+/// An item, the pixels that it covers, and those of them that are to be painted.
+struct Shown {
+    const PaintItem* item;
+    PixelRect place;
+    PixelRect visible;
+};
+
+/// Paints the operations of one item, as far as they are visible.
 struct ItemPainter {
     QPainter& painter;
     PixelScale scale;
-    PixelRect place;
+    const Shown& shown;
     PictureCache& pictures;
 
     void operator()(const PictureOperation& picture) const {
-        if (const QRect box = toQRect(scale.pixels(picture.box)); !box.isEmpty()) {
-            painter.drawImage(box.topLeft(), pictures.image(*picture.picture, box.size()));
+        const PixelRect box = scale.pixels(picture.box);
+        if (const PixelRect part = box.intersected(shown.visible); !part.empty()) {
+            const QImage& image = pictures.image(*picture.picture, {box.width(), box.height()});
+            painter.drawImage(toQRect(part), image, toQRect(part).translated(-box.left, -box.top));
         }
     }
 
-    void operator()(const FillOperation& fill) const {
-        painter.fillRect(toQRect(scale.pixels(fill.box)), toQColor(fill.colour));
-    }
+    void operator()(const FillOperation& fill) const { paint(scale.pixels(fill.box), fill.colour); }
 
     void operator()(const BoxOperation& box) const {
         for (const PixelRect& side : boxSides(scale.pixels(box.box), scale.pen())) {
-            painter.fillRect(toQRect(side), toQColor(box.colour));
+            paint(side, box.colour);
         }
     }
 
     void operator()(const LineOperation& line) const {
         if (line.from.x == line.to.x || line.from.y == line.to.y) {
-            painter.fillRect(toQRect(scale.stroke(line.from, line.to, place)), toQColor(line.colour));
+            paint(scale.stroke(line.from, line.to, shown.place), line.colour);
             return;
         }
+        painter.setClipRect(toQRect(shown.visible));
         painter.setPen(QPen(toQColor(line.colour), scale.pen()));
         painter.drawLine(scale.pixel(line.from.x), scale.pixel(line.from.y), scale.pixel(line.to.x),
                          scale.pixel(line.to.y));
+        painter.setClipping(false);
     }
 
     void operator()(const CircleOperation& circle) const {
         const QPointF centre(scale.pixel(circle.centre.x) + 0.5, scale.pixel(circle.centre.y) + 0.5);
         const double radius = scale.factor() * static_cast<double>(circle.radius) / static_cast<double>(twipsPerPixel);
+        const double reach = radius + scale.pen();
+        const QRect visible = toQRect(shown.visible);
+        if (!QRectF(visible).intersects({centre.x() - reach, centre.y() - reach, 2 * reach, 2 * reach})) {
+            return;
+        }
+        painter.setClipRect(visible);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(toQColor(circle.colour), scale.pen()));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(centre, radius, radius);
         painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setClipping(false);
+    }
+
+private:
+    void paint(const PixelRect& box, Colour colour) const {
+        if (const PixelRect part = box.intersected(shown.visible); !part.empty()) {
+            painter.fillRect(toQRect(part), toQColor(colour));
+        }
     }
 };
 
@@ -64,19 +87,35 @@ QRect toQRect(const PixelRect& pixels) {
     return {QPoint(pixels.left, pixels.top), QPoint(pixels.right, pixels.bottom)};
 }
 
+// Looked through from the top, so that what later items hide is not painted at all: of a row of cards all but the last
+// show a narrow strip.
 void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale, const QRect& part,
             PictureCache& pictures, QImage& image) {
-    QPainter painter(&image);
-    painter.fillRect(part, toQColor(ground));
-    for (const PaintItem& item : items) {
-        const PixelRect place = scale.pixels(item.place);
-        const QRect clip = toQRect(place).intersected(part);
-        if (clip.isEmpty()) {
-            continue;
+    const PixelRect whole{.left = part.left(), .top = part.top(), .right = part.right(), .bottom = part.bottom()};
+    std::vector<Shown> topDown;
+    std::vector<PixelRect> covers;
+    const auto visible = [&](const PixelRect& place) {
+        PixelRect rest = place.intersected(whole);
+        for (auto cover = covers.begin(); cover != covers.end() && !rest.empty(); ++cover) {
+            rest = rest.without(*cover);
         }
-        painter.setClipRect(clip);
-        for (const Operation& operation : item.operations) {
-            std::visit(ItemPainter{painter, scale, place, pictures}, operation);
+        return rest;
+    };
+    for (auto item = items.rbegin(); item != items.rend(); ++item) {
+        const PixelRect place = scale.pixels(item->place);
+        const Shown shown{&*item, place, visible(place)};
+        if (!shown.visible.empty()) {
+            topDown.push_back(shown);
+            if (item->opaque()) {
+                covers.push_back(place);
+            }
+        }
+    }
+    QPainter painter(&image);
+    painter.fillRect(toQRect(visible(whole)), toQColor(ground));
+    for (auto shown = topDown.rbegin(); shown != topDown.rend(); ++shown) {
+        for (const Operation& operation : shown->item->operations) {
+            std::visit(ItemPainter{painter, scale, *shown, pictures}, operation);
         }
     }
 }

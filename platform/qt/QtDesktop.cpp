@@ -155,11 +155,11 @@ void QtDesktop::changed(Control& control) {
     }
 }
 
-void QtDesktop::painted(PictureBox& box, const PaintItem& item) {
+void QtDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
     Form& form = box.container().form();
     if (FormWindow* window = windowOf(form)) {
         SurfaceWidget* surface = window->surface(box);
-        surface->changed(item.place);
+        surface->changed();
         if (form.MousePointer() == Pointer::Hourglass) {
             surface->showNow();
         }

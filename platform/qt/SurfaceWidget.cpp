@@ -70,7 +70,12 @@ double pixelRatio(const QWidget& widget) {
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise,
                              QWidget* parent)
-    : QWidget(parent), box_(box), raise_(std::move(raise)), pictures_(pictures), focusRing_(new FocusRing(parent)) {
+    : QWidget(parent),
+      box_(box),
+      raise_(std::move(raise)),
+      pictures_(pictures),
+      inImage_(box.painting()),
+      focusRing_(new FocusRing(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.MouseMove != nullptr);
     setFocusPolicy(Qt::TabFocus);
@@ -84,47 +89,63 @@ void SurfaceWidget::scale(double scale) {
     update();
 }
 
-void SurfaceWidget::changed(const Rect& place) {
-    const QRect pixels = toQRect(pixelScale().pixels(place));
-    outOfDate_ |= pixels;
-    // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
-    const double ratio = pixelRatio(*this);
-    update(QRectF(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio)
-               .toAlignedRect()
-               .adjusted(-1, -1, 1, 1));
-}
-
-void SurfaceWidget::showNow() {
-    if (!outOfDate_.isEmpty()) {
-        repaint();
+void SurfaceWidget::changed() {
+    if (!outOfDate_) {
+        outOfDate_ = true;
+        const auto show = [this] { update(logicalRect(bringImageUpToDate())); };
+        QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
     }
 }
 
-// The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
-void SurfaceWidget::bringImageUpToDate() {
+void SurfaceWidget::showNow() {
+    if (outOfDate_) {
+        repaint(logicalRect(bringImageUpToDate()));
+    }
+}
+
+/// Returns the part of the image that is another, in device pixels.
+QRect SurfaceWidget::bringImageUpToDate() {
     const PixelScale scale = pixelScale();
-    const QRect all = toQRect(scale.pixels(box_.painting().bounds()));
+    const Painting& painting = box_.painting();
+    QRect part = toQRect(scale.pixels(painting.changedSince(inImage_)));
     if (imageFactor_ != scale.factor()) {
         if (imageFactor_ != 0) {
             pictures_.clear();
         }
         imageFactor_ = scale.factor();
-        image_ = QImage(all.size(), QImage::Format_RGB32);
-        outOfDate_ = all;
+        part = toQRect(scale.pixels(painting.bounds()));
+        image_ = QImage(part.size(), QImage::Format_RGB32);
     }
-    if (const QRect part = outOfDate_.intersected(all); !part.isEmpty()) {
-        replay(box_.painting().ground(), box_.painting().items(), scale, part, pictures_, image_);
+    part &= image_.rect();
+    if (!part.isEmpty()) {
+        replay(painting.ground(), painting.items(), scale, part, pictures_, image_);
+        inImage_ = painting;
     }
-    outOfDate_ = {};
+    outOfDate_ = false;
+    return part;
 }
 
-void SurfaceWidget::paintEvent(QPaintEvent* /*event*/) {
-    bringImageUpToDate();
+// A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
+QRect SurfaceWidget::logicalRect(const QRect& pixels) const {
+    const double ratio = pixelRatio(*this);
+    const QRectF logical(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio);
+    return pixels.isEmpty() ? QRect() : logical.toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+// The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
+void SurfaceWidget::paintEvent(QPaintEvent* event) {
+    if (imageFactor_ != pixelScale().factor()) {
+        bringImageUpToDate();
+    }
     QPainter painter(this);
     // In device pixels, so that a fractional ratio resamples nothing.
     const double ratio = pixelRatio(*this);
     painter.scale(1 / ratio, 1 / ratio);
-    painter.drawImage(0, 0, image_);
+    for (const QRect& part : event->region()) {
+        const QRectF pixels(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
+        const QRect whole = pixels.toAlignedRect();
+        painter.drawImage(whole, image_, whole);
+    }
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {

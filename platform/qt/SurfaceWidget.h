@@ -26,8 +26,8 @@ public:
     /// Logical pixels for each 15 twips; the painting shows at the new scale after the event.
     void scale(double scale);
 
-    /// Where the painting has changed; it reaches the screen after the event, or with `showNow`.
-    void changed(const Rect& place);
+    /// The painting has changed; it reaches the screen after the event, or with `showNow`.
+    void changed();
     void showNow();
 
 protected:
@@ -41,7 +41,8 @@ protected:
 
 private:
     PixelScale pixelScale() const { return PixelScale(scale_ * pixelRatio(*this)); }
-    void bringImageUpToDate();
+    QRect bringImageUpToDate();
+    QRect logicalRect(const QRect& pixels) const;
     void placeFocusRing();
     void report(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event);
 
@@ -51,7 +52,8 @@ private:
     double scale_ = 1;
     double imageFactor_ = 0; // at which the image was painted
     QImage image_;           // in device pixels
-    QRect outOfDate_;        // of the image
+    Painting inImage_;       // what the image shows
+    bool outOfDate_ = false;
     QWidget* focusRing_;
 };
 

@@ -354,6 +354,12 @@ TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
         LoggingSurface surface;
         CardTracker tracker;
         tracker.picture(&surface);
+        const PixelScale scale(factor);
+        const QRect all = toQRect(scale.pixels(surface.painting().bounds()));
+        PictureCache pictures({});
+        QImage stepwise(all.size(), QImage::Format_RGB32);
+        stepwise.fill(toQColor(tableGreen));
+        Painting shown = surface.painting();
         std::mt19937 random(static_cast<unsigned>(factor * 100));
         const auto place = [&](unsigned limit) { return static_cast<float>(random() % limit); };
         for (int i = 0; i < cards; ++i) {
@@ -368,15 +374,16 @@ TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
                 tracker.endCurCardMove();
             }
             ASSERT_LE(surface.painting().items().size(), 2U * cards + 8U);
+            const QRect part = toQRect(scale.pixels(surface.painting().changedSince(shown)));
+            replay(tableGreen, surface.painting().items(), scale, part & all, pictures, stepwise);
+            shown = surface.painting();
         }
-        const PixelScale scale(factor);
-        const QRect all = toQRect(scale.pixels(surface.painting().bounds()));
-        PictureCache pictures({});
         QImage list(all.size(), QImage::Format_RGB32);
         QImage log(all.size(), QImage::Format_RGB32);
         replay(tableGreen, surface.painting().items(), scale, all, pictures, list);
         replay(tableGreen, surface.log, scale, all, pictures, log);
         EXPECT_EQ(list, log) << "at " << factor;
+        EXPECT_EQ(stepwise, log) << "at " << factor;
     }
 }
 
