@@ -1,9 +1,19 @@
 #include "platform/DrawingSurface.h"
 
+#include <cstddef>
+
 namespace tumble {
 
+namespace {
+
+constexpr std::size_t usualOperations = 3;
+
+} // namespace
+
 Brush::Brush(DrawingSurface& surface, const Rect& place)
-    : surface_(surface), item_{.place = place, .operations = {}}, current_{place.left, place.top} {}
+    : surface_(surface), item_{.place = place, .operations = {}}, current_{place.left, place.top} {
+    item_.operations.reserve(usualOperations);
+}
 
 Brush::~Brush() {
     surface_.add(item_);

@@ -44,6 +44,16 @@ struct Rect {
                 .bottom = std::max(bottom, other.bottom)};
     }
 
+    Rect intersected(const Rect& other) const {
+        return {.left = std::max(left, other.left),
+                .top = std::max(top, other.top),
+                .right = std::min(right, other.right),
+                .bottom = std::min(bottom, other.bottom)};
+    }
+
+    /// A rectangle that holds all of this one that `cover` leaves to see, and of the cover at most an edge.
+    Rect without(const Rect& cover) const;
+
     /// True when less than `gap` twips of space lie between the two; with no gap, when they share a point.
     bool meets(const Rect& other, float gap = 0) const {
         return left <= other.right + gap && other.left <= right + gap && top <= other.bottom + gap &&
@@ -52,5 +62,18 @@ struct Rect {
 
     friend bool operator==(const Rect&, const Rect&) = default;
 };
+
+inline Rect Rect::without(const Rect& cover) const {
+    Rect rest = *this;
+    if (cover.top <= top && cover.bottom >= bottom) {
+        rest.left = cover.left <= left ? std::max(left, cover.right) : left;
+        rest.right = cover.right >= right ? std::min(right, cover.left) : right;
+    }
+    if (cover.left <= left && cover.right >= right) {
+        rest.top = cover.top <= top ? std::max(top, cover.bottom) : top;
+        rest.bottom = cover.bottom >= bottom ? std::min(bottom, cover.top) : bottom;
+    }
+    return rest;
+}
 
 } // namespace tumble

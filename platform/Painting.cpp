@@ -10,6 +10,17 @@ namespace {
 
 constexpr std::size_t fewItems = 64;
 
+/// What the items laid over it leave of an item.
+Rect visiblePart(const std::vector<PaintItem>& items, std::size_t position) {
+    Rect part = items[position].place;
+    for (std::size_t later = items.size() - 1; later > position && !part.empty(); --later) {
+        if (items[later].opaque()) {
+            part = part.without(items[later].place);
+        }
+    }
+    return part;
+}
+
 } // namespace
 
 bool PaintItem::opaque() const {
@@ -102,7 +113,7 @@ Rect Painting::changedSince(const Painting& before) const {
     const auto join = [&](const std::vector<PaintItem>& items) {
         for (std::size_t i = head; i + tail < items.size(); ++i) {
             if (was.size() != is.size() || was[i] != is[i]) {
-                changed = changed.joined(items[i].place);
+                changed = changed.joined(visiblePart(items, i));
             }
         }
     };

@@ -12,19 +12,6 @@ PixelRect PixelRect::intersected(const PixelRect& other) const {
             .bottom = std::min(bottom, other.bottom)};
 }
 
-PixelRect PixelRect::without(const PixelRect& cover) const {
-    PixelRect rest = *this;
-    if (cover.top <= top && cover.bottom >= bottom) {
-        rest.left = cover.left <= left ? std::max(left, cover.right + 1) : left;
-        rest.right = cover.right >= right ? std::min(right, cover.left - 1) : right;
-    }
-    if (cover.left <= left && cover.right >= right) {
-        rest.top = cover.top <= top ? std::max(top, cover.bottom + 1) : top;
-        rest.bottom = cover.bottom >= bottom ? std::min(bottom, cover.top - 1) : bottom;
-    }
-    return rest;
-}
-
 std::array<PixelRect, 4> boxSides(const PixelRect& box, int pen) {
     std::array<PixelRect, 4> sides{box, box, box, box};
     sides[0].bottom = std::min(box.bottom, box.top + pen - 1);

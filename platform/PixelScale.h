@@ -17,8 +17,6 @@ struct PixelRect {
     int height() const { return bottom - top + 1; }
     bool empty() const { return right < left || bottom < top; }
     PixelRect intersected(const PixelRect& other) const;
-    /// The smallest block that holds what `cover` leaves to see.
-    PixelRect without(const PixelRect& cover) const;
 
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };

@@ -75,6 +75,8 @@ TEST(PaintingTest, TellsWhereItChanged) {
     const PaintItem C = fill({200, 0, 209, 9}, red);
     const PaintItem blueB = fill({100, 0, 109, 9}, blue);
     const PaintItem open{{100, 0, 109, 9}, {}};
+    const PaintItem blueA = fill(A.place, blue);
+    const PaintItem overA = fill({2, 0, 20, 20}, red);
     const Rect none;
     const std::vector<std::tuple<std::vector<PaintItem>, std::vector<PaintItem>, Rect>> cases{
         {{A, B, C}, {A, B, C}, none},           {{A, B, C}, {A, blueB, C}, {100, 0, 109, 9}},
@@ -201,24 +203,24 @@ TEST(PixelRectTest, SidesOfABoxLieInsideIt) {
     EXPECT_EQ((PixelRect{10, 20, 30, 40}.intersected({15, 10, 40, 35})), (PixelRect{15, 20, 30, 35}));
 }
 
-TEST(PixelRectTest, ACoverLeavesTheBlockThatHoldsTheRest) {
-    const PixelRect block{10, 20, 30, 40};
-    const std::vector<std::pair<PixelRect, PixelRect>> cases{{{10, 20, 15, 40}, {16, 20, 30, 40}},
-                                                             {{25, 0, 30, 99}, {10, 20, 24, 40}},
-                                                             {{0, 20, 30, 25}, {10, 26, 30, 40}},
-                                                             {{10, 35, 99, 40}, {10, 20, 30, 34}},
-                                                             {{15, 20, 20, 40}, block},
-                                                             {{10, 25, 30, 30}, block},
-                                                             {{10, 21, 15, 40}, block},
-                                                             {{10, 20, 15, 39}, block},
-                                                             {{11, 20, 30, 25}, block},
-                                                             {{10, 20, 29, 25}, block},
-                                                             {{31, 20, 40, 40}, block},
-                                                             {{10, 0, 30, 19}, block}};
+TEST(RectTest, ACoverLeavesTheRectangleThatHoldsTheRest) {
+    const Rect place{10, 20, 30, 40};
+    const std::vector<std::pair<Rect, Rect>> cases{{{10, 20, 15, 40}, {15, 20, 30, 40}},
+                                                   {{25, 0, 30, 99}, {10, 20, 25, 40}},
+                                                   {{0, 20, 30, 25}, {10, 25, 30, 40}},
+                                                   {{10, 35, 99, 40}, {10, 20, 30, 35}},
+                                                   {{15, 20, 20, 40}, place},
+                                                   {{10, 25, 30, 30}, place},
+                                                   {{10, 21, 15, 40}, place},
+                                                   {{10, 20, 15, 39}, place},
+                                                   {{11, 20, 30, 25}, place},
+                                                   {{10, 20, 29, 25}, place},
+                                                   {{31, 20, 40, 40}, place},
+                                                   {{10, 0, 30, 19}, place}};
     for (const auto& [cover, rest] : cases) {
-        EXPECT_EQ(block.without(cover), rest) << cover.left << "," << cover.top;
+        EXPECT_EQ(place.without(cover), rest) << cover.left << "," << cover.top;
     }
-    EXPECT_TRUE(block.without(block).empty());
+    EXPECT_TRUE(place.without({0, 20, 99, 99}).empty());
 }
 
 } // namespace

@@ -89,30 +89,33 @@ QRect toQRect(const PixelRect& pixels) {
 
 // Looked through from the top, so that what later items hide is not painted at all: of a row of cards all but the last
 // show a narrow strip.
-void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale, const QRect& part,
+void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale, const Rect& part,
             PictureCache& pictures, QImage& image) {
-    const PixelRect whole{.left = part.left(), .top = part.top(), .right = part.right(), .bottom = part.bottom()};
+    const PixelRect pixels =
+        scale.pixels(part).intersected({.left = 0, .top = 0, .right = image.width() - 1, .bottom = image.height() - 1});
+    const Rect around{.left = part.left - twipsPerPixel, // what lies nearer may share a pixel with the part
+                      .top = part.top - twipsPerPixel,
+                      .right = part.right + twipsPerPixel,
+                      .bottom = part.bottom + twipsPerPixel};
     std::vector<Shown> topDown;
-    std::vector<PixelRect> covers;
-    const auto visible = [&](const PixelRect& place) {
-        PixelRect rest = place.intersected(whole);
-        for (auto cover = covers.begin(); cover != covers.end() && !rest.empty(); ++cover) {
-            rest = rest.without(*cover);
+    std::vector<Rect> covers;
+    const auto visiblePixels = [&](Rect place) {
+        place = place.intersected(around);
+        for (auto cover = covers.begin(); cover != covers.end() && !place.empty(); ++cover) {
+            place = place.without(*cover);
         }
-        return rest;
+        return scale.pixels(place).intersected(pixels);
     };
     for (auto item = items.rbegin(); item != items.rend(); ++item) {
-        const PixelRect place = scale.pixels(item->place);
-        const Shown shown{&*item, place, visible(place)};
-        if (!shown.visible.empty()) {
-            topDown.push_back(shown);
+        if (const PixelRect visible = visiblePixels(item->place); !visible.empty()) {
+            topDown.push_back({&*item, scale.pixels(item->place), visible});
             if (item->opaque()) {
-                covers.push_back(place);
+                covers.push_back(item->place);
             }
         }
     }
     QPainter painter(&image);
-    painter.fillRect(toQRect(visible(whole)), toQColor(ground));
+    painter.fillRect(toQRect(visiblePixels(around)), toQColor(ground));
     for (auto shown = topDown.rbegin(); shown != topDown.rend(); ++shown) {
         for (const Operation& operation : shown->item->operations) {
             std::visit(ItemPainter{painter, scale, *shown, pictures}, operation);

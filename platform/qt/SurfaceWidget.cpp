@@ -107,22 +107,21 @@ void SurfaceWidget::showNow() {
 QRect SurfaceWidget::bringImageUpToDate() {
     const PixelScale scale = pixelScale();
     const Painting& painting = box_.painting();
-    QRect part = toQRect(scale.pixels(painting.changedSince(inImage_)));
+    Rect part = painting.changedSince(inImage_);
     if (imageFactor_ != scale.factor()) {
         if (imageFactor_ != 0) {
             pictures_.clear();
         }
         imageFactor_ = scale.factor();
-        part = toQRect(scale.pixels(painting.bounds()));
-        image_ = QImage(part.size(), QImage::Format_RGB32);
+        part = painting.bounds();
+        image_ = QImage(toQRect(scale.pixels(part)).size(), QImage::Format_RGB32);
     }
-    part &= image_.rect();
-    if (!part.isEmpty()) {
+    if (!part.empty()) {
         replay(painting.ground(), painting.items(), scale, part, pictures_, image_);
         inImage_ = painting;
     }
     outOfDate_ = false;
-    return part;
+    return toQRect(scale.pixels(part)) & image_.rect();
 }
 
 // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.

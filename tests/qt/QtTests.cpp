@@ -355,9 +355,10 @@ TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
         CardTracker tracker;
         tracker.picture(&surface);
         const PixelScale scale(factor);
-        const QRect all = toQRect(scale.pixels(surface.painting().bounds()));
+        const Rect all = surface.painting().bounds();
+        const QSize size = toQRect(scale.pixels(all)).size();
         PictureCache pictures({});
-        QImage stepwise(all.size(), QImage::Format_RGB32);
+        QImage stepwise(size, QImage::Format_RGB32);
         stepwise.fill(toQColor(tableGreen));
         Painting shown = surface.painting();
         std::mt19937 random(static_cast<unsigned>(factor * 100));
@@ -374,12 +375,12 @@ TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
                 tracker.endCurCardMove();
             }
             ASSERT_LE(surface.painting().items().size(), 2U * cards + 8U);
-            const QRect part = toQRect(scale.pixels(surface.painting().changedSince(shown)));
-            replay(tableGreen, surface.painting().items(), scale, part & all, pictures, stepwise);
+            const Rect part = surface.painting().changedSince(shown);
+            replay(tableGreen, surface.painting().items(), scale, part, pictures, stepwise);
             shown = surface.painting();
         }
-        QImage list(all.size(), QImage::Format_RGB32);
-        QImage log(all.size(), QImage::Format_RGB32);
+        QImage list(size, QImage::Format_RGB32);
+        QImage log(size, QImage::Format_RGB32);
         replay(tableGreen, surface.painting().items(), scale, all, pictures, list);
         replay(tableGreen, surface.log, scale, all, pictures, log);
         EXPECT_EQ(list, log) << "at " << factor;
