@@ -5,7 +5,7 @@
 namespace tumble {
 
 // A repetition is a release and a press at the same instant. The toolkit does not always see that and takes it for a
-// press.
+// press. While a screen reader listens, it passes keys on without their time.
 bool HeldKeys::eventFilter(QObject* object, QEvent* event) {
     const bool press = event->type() == QEvent::KeyPress;
     if (!object->isWindowType() || (!press && event->type() != QEvent::KeyRelease)) {
@@ -21,7 +21,9 @@ bool HeldKeys::eventFilter(QObject* object, QEvent* event) {
         return false;
     }
     const auto released = released_.find(key);
-    return keyEvent.isAutoRepeat() || (released != released_.end() && released->second == keyEvent.timestamp());
+    const bool timed = keyEvent.timestamp() != 0;
+    return keyEvent.isAutoRepeat() ||
+           (timed && released != released_.end() && released->second == keyEvent.timestamp());
 }
 
 } // namespace tumble

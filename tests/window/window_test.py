@@ -1,0 +1,155 @@
+#!/usr/bin/python3
+"""Plays the program in a real window and leaves it in every way: window_test.py PROGRAM"""
+
+import pathlib
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+from player import CORNERS, FREE, Game, Screen, in_spread, require_packages, stop, wait
+
+LOWEST = "You must play the lowest ranking card, a Two"
+BELOW = (3900, 4200)  # below the spread
+
+
+class WindowTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.screen = Screen()
+        cls.addClassCleanup(cls.screen.close)
+
+    def start(self):
+        game = Game(self.screen, PROGRAM)
+        self.addCleanup(stop, game.process)
+        return game
+
+    def start_table(self):
+        game = self.start()
+        game.key("Return")
+        game.in_front("Tumble")
+        return game
+
+    def leave(self, game, way="Return"):
+        self.close(game, way)
+        self.assertEqual(game.end(), (0, "", False), "exit status, what it said, whether a process is left")
+
+    @staticmethod
+    def close(game, way):
+        game.press(way) if way in ("Exit", "OK") else game.key(way)
+
+    def assert_told(self, game, text, way, title="Invalid Move!"):
+        self.assertEqual(game.message(title), text)
+        self.close(game, way)
+
+    def test_options_are_left_in_every_way(self):
+        for way in ("Exit", "Escape", "alt+x", "alt+F4"):
+            with self.subTest(way):
+                self.leave(self.start(), way)
+
+    def test_table_is_left_in_every_way(self):
+        for way in ("Exit", "Return", "alt+x", "alt+F4"):
+            with self.subTest(way):
+                self.leave(self.start_table(), way)
+
+    def test_boxes_close_in_every_way_while_a_screen_reader_listens(self):
+        listener = self.screen.reader().EventListener.new(lambda event: None)
+        listener.register("window")
+        self.addCleanup(listener.deregister, "window")
+        game = self.start_table()
+        for button, title in (("Help", "Tumble Instructions"), ("About", "About Tumble")):
+            for way in ("OK", "Return", "Escape", "alt+F4"):
+                game.press(button)
+                game.in_front(title)
+                self.close(game, way)
+                game.in_front("Tumble")
+        self.leave(game)
+
+    def test_screen_reader_is_told_what_shows(self):
+        game = self.start()
+        wait("the options", lambda: game.read("slider") == ["Back design"])
+        self.assertEqual(game.read("image"), ["Card size preview", "Back design preview"])
+        game.press("Play")
+        game.in_front("Tumble")
+        wait("the table", lambda: game.read("image") == ["Table"])
+        for place, name in ((in_spread(0), "Two of Diamonds"), (in_spread(51), "Ace of Spades"), (FREE, "None"),
+                            (CORNERS[3], "Pile (empty)")):
+            game.mouse(place)
+            game.wait_for_label(name)
+        self.leave(game)
+
+    def test_default_game_is_refused_and_won(self):
+        game = self.start_table()
+        places = [in_spread(card) for card in range(52)]
+
+        def refused(card, corner, aside, text, way):
+            game.drag(places[card], corner)
+            self.assert_told(game, text, way)
+            game.in_front("Tumble")
+            game.drag(corner, aside)
+            places[card] = aside
+
+        refused(4, CORNERS[0], (3900, 4400), LOWEST, "OK")
+        game.to_corner(0, places[0])
+        refused(1, CORNERS[0], (5400, 4400), "You must follow suit with a Diamond", "Escape")
+        refused(8, CORNERS[0], (2400, 4400),
+                "You must play either a Two of Diamonds or a Three of Diamonds or a Joker", "alt+F4")
+        for card in range(1, 52):
+            game.to_corner(card, places[card])
+        self.assert_told(game, "CONGRATULATIONS!", "Return", "YOU WIN")
+        game.in_front("Tumble")
+        self.leave(game)
+
+    def test_release_beyond_the_limits_is_refused_twice(self):
+        game = self.start_table()
+        game.drag(in_spread(4), (7875, 405))
+        self.assert_told(game, LOWEST, "Return")
+        game.in_front("Tumble")
+        game.mouse((8970, 405), "mousedown 1", "mouseup 1")
+        self.assert_told(game, LOWEST, "Return")
+        self.assert_told(game, LOWEST, "Return")
+        game.in_front("Tumble")
+        self.leave(game)
+
+    def test_card_follows_when_the_button_is_let_go_while_the_refusal_is_open(self):
+        game = self.start_table()
+        card = game.lift(in_spread(4), (7875, 405))
+        game.mouse((7875, -30))
+        self.assertEqual(game.message("Invalid Move!"), LOWEST)
+        game.mouse("mouseup 1")
+        game.key("Return")
+        game.in_front("Tumble")
+        game.mouse(BELOW)
+        wait("the card under the mouse", lambda: game.look((BELOW[0], BELOW[1] + 435)) == card)
+        game.mouse("click 1", CORNERS[3])
+        game.wait_for_label("Pile (empty)")
+        self.leave(game)
+
+    def test_drag_survives_another_window(self):
+        game = self.start_table()
+        game.lift(in_spread(51), BELOW)
+        table = (601, 401, *game.on_table(0, 0))
+        painted = self.screen.photograph(part=table)
+        other = self.screen.start("xev", "-geometry", "2000x2000+0+0")
+        wait("the other window", lambda: self.screen.photograph(part=table) != painted)
+        stop(other)
+        wait("the table as it was", lambda: self.screen.photograph(part=table) == painted)
+        game.mouse("mouseup 1", in_spread(50))
+        game.wait_for_label("Ace of Hearts")
+        self.leave(game)
+
+    def test_second_button_flips_the_dragged_card_and_its_release_ends_the_drag(self):
+        game = self.start_table()
+        face = game.lift(in_spread(51), BELOW)
+        game.mouse("mousedown 3")
+        wait("the back", lambda: game.look(BELOW) != face)
+        game.mouse("mouseup 3", CORNERS[3])
+        game.wait_for_label("Pile (empty)")
+        game.mouse("mouseup 1", BELOW, "click 3")
+        wait("the face", lambda: game.look(BELOW) == face)
+        self.leave(game)
+
+
+if __name__ == "__main__":
+    require_packages()
+    PROGRAM = sys.argv.pop(1)
+    unittest.main(failfast=True)
