@@ -14,6 +14,11 @@ constexpr float tableMargin = 71; // twips at the right and the bottom that a dr
 constexpr Colour yellow = 0x00FFFF;
 constexpr Colour blue = 0xFF0000;
 
+// A card may be made a pile card and never given a pack; there is nothing to take from it then, or to put on.
+bool standsForPack(const Card& crd) {
+    return crd.visible() == vsPile && crd.pack() != nullptr;
+}
+
 } // namespace
 
 void CardTracker::addExistingCard(std::shared_ptr<Card> crd) {
@@ -91,7 +96,7 @@ void CardTracker::startCurCardMove(float X, float Y) {
         return;
     }
     if (curCard_->visible() == vsPile) {
-        const auto taken = curCard_->pack()->takeTopCard();
+        const auto taken = standsForPack(*curCard_) ? curCard_->pack()->takeTopCard() : nullptr;
         if (taken == nullptr) {
             return;
         }
@@ -160,7 +165,7 @@ std::string CardTracker::checkSanity() const {
         if (!placed.insert(crd.get()).second) {
             return "a card lies on the table twice";
         }
-        if (crd->visible() == vsPile) {
+        if (standsForPack(*crd)) {
             for (const auto& inPack : crd->pack()->cards()) {
                 if (!placed.insert(inPack.get()).second) {
                     return "a card of a pack lies in a second place";
@@ -209,7 +214,7 @@ std::shared_ptr<Card> CardTracker::findDropPile(const Card& crd) const {
     float bestArea = 100000000; // square twips
     std::shared_ptr<Card> best;
     for (const auto& pileCard : tableCards_) {
-        if (pileCard->visible() != vsPile || !cardsOverlap(crd, *pileCard)) {
+        if (!standsForPack(*pileCard) || !cardsOverlap(crd, *pileCard)) {
             continue;
         }
         const double width =

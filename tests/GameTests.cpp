@@ -55,33 +55,6 @@ TEST(MainModTest, InvalidSettingsAreReportedAndTheGameGoesOn) {
     EXPECT_EQ(window.MousePointer(), Pointer::Default);
 }
 
-/// Drags the card at the place exactly onto the corner pile of its suit, a joker onto the first.
-void play(Table& table, Point at) {
-    static const std::vector<Point> corners{{0, 0}, {8216, 0}, {0, 4811}, {8216, 4811}};
-    const auto crd = table.tracker().identifyCard(at.x, at.y);
-    const Point corner = corners.at(static_cast<std::size_t>(crd->suit()));
-    table.drag(at, {corner.x + at.x - static_cast<float>(crd->x1()), corner.y + at.y - static_cast<float>(crd->y1())});
-}
-
-TEST(GameTest, EveryDeckIsPlayedToTheWin) {
-    for (int dckType = dtStandard; dckType <= dtBigPinochle; ++dckType) {
-        SCOPED_TRACE(dckType);
-        Table table;
-        table.program.startGame(csSmall, bsFirst, fdFaceUp, static_cast<DeckType>(dckType), soNatural, lsSpread);
-        const auto deck = CardConstants::deckMakeUp(static_cast<DeckType>(dckType)).value_or(DeckMakeUp());
-        const int ofCopy = (deck.cards() - deck.jokers) / deck.copies;
-        for (int card = 0; card < deck.cards(); ++card) {
-            EXPECT_EQ(table.messages(), "") << card;
-            const int afterJokers = card - deck.jokers; // the copies of a card one after the other
-            const int ofSuits = afterJokers / deck.copies + afterJokers % deck.copies * ofCopy;
-            const int dealt = afterJokers < 0 ? card : deck.jokers + ofSuits;
-            const int row = dealt / 39;
-            play(table, {static_cast<float>(1310 + 150 * (dealt % 39)), static_cast<float>(1010 + 1000 * row)});
-        }
-        EXPECT_EQ(table.messages(), "YOU WIN: CONGRATULATIONS!");
-    }
-}
-
 TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
     Table table;
     table.lay(rkFive, suHeart, 100, 100);

@@ -82,6 +82,22 @@ TEST_F(CardPackTest, ShuffleSwapsTheDrawnPlacesAndDrawsBothAgainPastTheEnd) {
     }
 }
 
+TEST_F(CardPackTest, HoldsThousandsOfCards) {
+    table.desktop.random().script({0.9F, 0.1F, 0.3F, 0.7F, 0.5F});
+    for (int deck = 0; deck < 20; ++deck) {
+        pack->init(csSmall, fdFaceUp, bsFirst, dtDouble);
+    }
+    for (const SortOrder sortOrder : {soShuffled, soSuitRankAsc, soRankSuitDesc}) {
+        pack->sort(sortOrder);
+    }
+    EXPECT_EQ(pack->cards().at(39)->getStr() + ", " + pack->cards().at(40)->getStr(), "Ace of Spades, Ace of Hearts");
+    pack->placeAsPile(0, 0);
+    EXPECT_EQ(table.painted(), "TwoDiamonds 0,0; edge of 2080 0,0");
+    pack->dealToTable(1300, 1000, 7644);
+    EXPECT_EQ(table.nameAt({1310, 54010}), "Two of Diamonds"); // the first in the 54th row of 39
+    EXPECT_EQ(table.tracker().checkSanity(), "");
+}
+
 TEST(CardOrderTest, TellsCardsApartByRankAndSuitAndJokersAboveAll) {
     const auto jokerOnceAKing = makeCard(rkKing, suSpade);
     jokerOnceAKing->setAsJoker();

@@ -1,0 +1,200 @@
+#include "tests/Player.h"
+
+#include <map>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+namespace tumble {
+
+namespace {
+
+constexpr std::array lowestRanks{2, 2, 6, 7,
+                                 9, 2, 9, 7}; // of the decks, from the sixth of which on a card is there twice
+constexpr std::array<Point, 3> sizes{{{729, 1134}, {900, 1400}, {1233, 1918}}}; // width and height of a card
+constexpr std::array<Point, 4> corners{{{300, 300}, {8644, 300}, {300, 5644}, {8644, 5644}}}; // one for each suit
+constexpr std::array suits{"Diamonds", "Clubs", "Hearts", "Spades"};
+constexpr std::array ranks{"Two",  "Three", "Four", "Five",  "Six",  "Seven", "Eight",
+                           "Nine", "Ten",   "Jack", "Queen", "King", "Ace"};
+
+std::string onPile(const std::string& name) {
+    return "Pile (" + name + ")";
+}
+
+// Where cards held by their top left corner touch no pile, and each leaves a strip of the one before it to see.
+std::vector<Point> freePlaces(Point size) {
+    const auto [w, h] = size;
+    std::vector<Point> places;
+    const auto addRow = [&places](float left, float right, float y) {
+        for (Point at{left, y}; at.x < right; at = {at.x + 150, y}) {
+            places.push_back(at);
+        }
+    };
+    addRow(w + 15, 8940 - 2 * w, 10);
+    addRow(w + 15, 8940 - 2 * w, 4010);
+    addRow(10, 4500 - 1.5F * w, 1960);
+    addRow(4525 + w / 2, 8900, 1960);
+    return places;
+}
+
+class Player {
+public:
+    Player(const Settings& settings, std::vector<float> shuffle)
+        : settings_(settings), size_(sizes.at(settings.size)), left_(cardsOfDeck.at(settings.deck)) {
+        shown_.fill(onPile("empty"));
+        table_.desktop.random().script(std::move(shuffle));
+        table_.program.Main();
+        choose(table_.program.options(), settings);
+        table_.program.options().cmdPlay.Click();
+    }
+
+    void win() {
+        const std::string back = "CardBack" + std::to_string(settings_.back + 1) + " ";
+        require((table_.painted().find(back) != std::string::npos) == (settings_.face == 1), "the wrong side is up");
+        expectTable("");
+        lookOver();
+        while (left_ > 0) {
+            if (playOne()) {
+                continue;
+            }
+            const std::string inTheWay = topOfDeck();
+            require(!inTheWay.empty(), "no card that can be played is to be seen");
+            layAside(inTheWay);
+        }
+        lookOver();
+        require(seen_.empty() && topOfDeck().empty(), "the game is won, and a card is left");
+    }
+
+private:
+    const std::string& nameAt(Point at) {
+        table_.move(at);
+        return table_.label();
+    }
+
+    std::string topOfDeck() {
+        if (settings_.layout == 0) {
+            return "";
+        }
+        const std::string name = nameAt(deck_);
+        require(name.starts_with("Pile ("), "not the deck lies in the middle but " + name);
+        return name == onPile("empty") ? "" : name.substr(6, name.size() - 7);
+    }
+
+    // Each card of a spread shows at least 150 by 1000 twips of itself.
+    void lookOver() {
+        seen_.clear();
+        for (Point at{70, 50}; at.y < 6000; at = at.x < 8860 ? Point{at.x + 140, at.y} : Point{70, at.y + 840}) {
+            if (const std::string& name = nameAt(at); name != "None" && !name.starts_with("Pile (")) {
+                seen_.emplace(name, at);
+            }
+        }
+    }
+
+    /// The card that goes onto the corner next; past the Ace there is none.
+    std::string wanted(std::size_t corner) const {
+        const int copies = settings_.deck < 5 ? 1 : 2;
+        const int rank = lowestRanks.at(settings_.deck) + played_.at(corner) / copies;
+        return rank > 14 ? "" : std::string(ranks.at(static_cast<std::size_t>(rank - 2))) + " of " + suits.at(corner);
+    }
+
+    std::optional<Point> find(const std::string& name) {
+        for (auto [at, end] = seen_.equal_range(name); at != end; at = seen_.erase(at)) {
+            if (nameAt(at->second) == name) {
+                return at->second;
+            }
+        }
+        return !name.empty() && topOfDeck() == name ? std::optional(deck_) : std::nullopt;
+    }
+
+    bool playOne() {
+        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+            for (const std::string& name : {wanted(corner), std::string("Joker")}) {
+                if (const auto from = find(name)) {
+                    drag(*from, name, corners.at(corner));
+                    played_.at(corner) += name == "Joker" ? 0 : 1;
+                    shown_.at(corner) = onPile(name);
+                    expectTable(--left_ == 0 ? "YOU WIN: CONGRATULATIONS!" : "");
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    void drag(Point from, const std::string& name, Point to) {
+        table_.press(from);
+        require(table_.label() == name || table_.label() == onPile(name), "pressed " + name + ": " + table_.label());
+        if (++drags_ % 2 == 0) { // else the release is the only step
+            table_.move({(from.x + to.x) / 2, (from.y + to.y) / 2});
+        }
+        table_.release(to);
+    }
+
+    void expectTable(const std::string& messages) {
+        const std::string said = table_.messages();
+        require(said == messages, "expected '" + messages + "', got '" + said + "'");
+        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+            const std::string& name = nameAt(corners.at(corner));
+            require(name == shown_.at(corner), "not " + shown_.at(corner) + " but " + name);
+        }
+    }
+
+    /// Lays the deck's top card aside; now and then it is first offered to a corner of another suit, or put back.
+    void layAside(const std::string& name) {
+        const Point to = free_.at(laidAside_);
+        Point from = deck_;
+        const std::size_t corner = laidAside_++ % 16;
+        if (corner < 4 && !name.ends_with(suits.at(corner)) && shown_.at(corner) != onPile("Joker")) {
+            drag(from, name, corners.at(corner));
+            require(table_.messages().starts_with("Invalid Move!: You must "), name + " is not refused");
+            from = corners.at(corner);
+        } else if (corner == 4) {
+            drag(deck_, name, {4500, 3000});
+            require(topOfDeck() == name, name + " is not back on the deck");
+        }
+        drag(from, name, to);
+        require(nameAt(to) == name, name + " is not where it was laid");
+        seen_.emplace(name, to);
+        expectTable("");
+    }
+
+    Settings settings_;
+    Point size_;
+    int left_;
+    Table table_;
+    Point deck_{4517 - size_.x / 2, 3017 - size_.y / 2}; // near the top left corner of the pile in the middle
+    std::vector<Point> free_ = freePlaces(size_);
+    std::size_t laidAside_ = 0;
+    int drags_ = 0;
+    std::multimap<std::string, Point> seen_; // where cards showed when last looked at
+    std::array<int, 4> played_{};            // cards of its suit on each corner
+    std::array<std::string, 4> shown_;       // the name of each corner
+};
+
+} // namespace
+
+void require(bool holds, const std::string& what) {
+    if (!holds) {
+        throw std::logic_error(what);
+    }
+}
+
+void choose(frmTumbleOptions& dialog, const Settings& settings) {
+    // clang-format off
+    std::array{&dialog.optDeckStandard, &dialog.optDeckStandardWithJokers, &dialog.optDeck36Card, &dialog.optDeck32Card,
+               &dialog.optDeck24Card, &dialog.optDeckDouble, &dialog.optDeckPinochle, &dialog.optDeckBigPinochle}
+        .at(settings.deck)->Select();
+    std::array{&dialog.optCardSmall, &dialog.optCardMedium, &dialog.optCardNormal}.at(settings.size)->Select();
+    std::array{&dialog.optNaturalOrder, &dialog.optShuffled, &dialog.optByRankSuitAsc, &dialog.optByRankSuitDesc,
+               &dialog.optBySuitRankAsc, &dialog.optBySuitRankDesc}.at(settings.order)->Select();
+    std::array{&dialog.optLayoutSpread, &dialog.optLayoutInPile}.at(settings.layout)->Select();
+    std::array{&dialog.optFaceUp, &dialog.optFaceDown}.at(settings.face)->Select();
+    // clang-format on
+    dialog.sldBackDesign.Value(static_cast<int>(settings.back) + 1);
+}
+
+void playToTheWin(const Settings& settings, std::vector<float> shuffle) {
+    Player(settings, std::move(shuffle)).win();
+}
+
+} // namespace tumble

@@ -1,0 +1,38 @@
+#include "tests/Player.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace tumble {
+namespace {
+
+class EverySetting : public testing::TestWithParam<std::size_t> {
+protected:
+    /// The games of a deck in each size, order and layout: four backs and two faces of each, or one in turn.
+    static void play(std::size_t deck, std::size_t backsAndFaces) {
+        for (std::size_t game = 0; game < 36 * backsAndFaces; ++game) {
+            SCOPED_TRACE(testing::Message() << "deck " << deck << ", game " << game);
+            const std::size_t look = game / 36 + game % 8;
+            std::mt19937 random(static_cast<std::mt19937::result_type>(game)); // the same in every run
+            std::vector<float> shuffle(2080);
+            std::generate(shuffle.begin(), shuffle.end(), [&] { return static_cast<float>(random() >> 8) / 0x1p24F; });
+            const Settings settings{deck, game % 3, game / 3 % 6, game / 18 % 2, look % 4, look / 4 % 2};
+            ASSERT_NO_THROW(playToTheWin(settings, shuffle));
+        }
+    }
+};
+
+TEST_P(EverySetting, IsPlayedToTheWin) {
+    play(GetParam(), 1);
+}
+
+TEST_P(EverySetting, IsPlayedToTheWinWithEveryBackAndFace) {
+    play(GetParam(), 8);
+}
+
+INSTANTIATE_TEST_SUITE_P(Deck, EverySetting, testing::Range<std::size_t>(0, 8));
+
+} // namespace
+} // namespace tumble
