@@ -40,28 +40,8 @@ int differences(const QImage& a, const QImage& b, int least, const QRect& area) 
     return count;
 }
 
-std::string suitName(int picture) {
-    const std::string key = pictureKey(picture);
-    return key.substr(key.find_last_of("CDHSJ"));
-}
-
 bool isCourt(int picture) {
     return picture >= 10 * suitCount && picture < faceCount;
-}
-
-/// The parts of the inks of which a colour is mixed.
-struct Mixture {
-    double black;
-    double red;
-    double yellow;
-    double white;
-};
-
-Mixture mixtureOf(QRgb colour) {
-    const double whites = qBlue(colour) / 255.0;
-    const double yellows = (qGreen(colour) - qBlue(colour)) / 208.0;
-    const double reds = (qRed(colour) - qGreen(colour) - 47 * yellows) / 208.0;
-    return {1 - whites - yellows - reds, reds, yellows, whites};
 }
 
 std::set<QRgb> coloursOf(const QImage& image) {
@@ -90,20 +70,6 @@ TEST(Assets, AreWhatTheProgramDraws) {
     expectDrawn("tumble.gif", drawPicture("Tumble", QSize(32, 32)));
     for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
         expectDrawn("icons/tumble-" + std::to_string(width) + ".png", drawIcon({width, width}, Qt::transparent));
-    }
-}
-
-TEST(Assets, FacesAreMixedOfTheirInksAlone) {
-    constexpr double trace = 0.04;
-    for (int picture = 0; picture <= jokerPicture; ++picture) {
-        const bool isColourful = isCourt(picture) || picture == jokerPicture;
-        const bool isRed = suitName(picture) == "Diamonds" || suitName(picture) == "Hearts";
-        for (const QRgb colour : coloursOf(fileImage(pictureKey(picture) + ".gif"))) {
-            const auto [blacks, reds, yellows, whites] = mixtureOf(colour);
-            const double foreign = isColourful ? 0 : std::max(yellows, isRed ? blacks : reds);
-            EXPECT_GE(std::min({blacks, reds, yellows, whites}), -trace) << pictureKey(picture) << std::hex << colour;
-            EXPECT_LE(foreign, trace) << pictureKey(picture) << std::hex << colour;
-        }
     }
 }
 

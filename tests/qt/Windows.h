@@ -5,17 +5,10 @@
 #include "platform/qt/QtDesktop.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QTest>
-#include <QTimer>
 #include <QWidget>
 
 #include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace tumble {
 
@@ -69,57 +62,6 @@ protected:
         QTest::mouseEvent(action, table->windowHandle(), button, {}, (origin + offset).toPoint());
         QCoreApplication::processEvents();
     }
-
-    static void drag(Point from, Point to) {
-        mouse(QTest::MousePress, from.x, from.y, Qt::LeftButton);
-        mouse(QTest::MouseMove, (from.x + to.x) / 2, (from.y + to.y) / 2);
-        mouse(QTest::MouseMove, to.x, to.y);
-        mouse(QTest::MouseRelease, to.x, to.y, Qt::LeftButton);
-    }
-
-    Windows() {
-        waiting.setInterval(1);
-        waiting.callOnTimeout(&waiting, [this] { closeMessage(); });
-    }
-
-    /// Keeps the text of the message box that opens next, does something while it is open and closes it.
-    void closeNextMessage(std::function<void()> whileOpen = {}) {
-        meanwhile = std::move(whileOpen);
-        waiting.start();
-    }
-
-    /// True when the application has been ended: its run is over before this can stop it.
-    bool ended() {
-        bool stopped = false;
-        const auto stop = [&] {
-            stopped = true;
-            QCoreApplication::exit();
-        };
-        QTimer::singleShot(0, &waiting, stop);
-        desktop.run();
-        const bool result = !stopped;
-        // Once round the toolkit's own loop, which otherwise stays ended for the tests to come.
-        QTimer::singleShot(0, &waiting, stop);
-        QCoreApplication::exec();
-        return result;
-    }
-
-    std::vector<std::string> messages;
-
-private:
-    void closeMessage() {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            waiting.stop();
-            messages.push_back(box->text().toStdString());
-            if (meanwhile) {
-                meanwhile();
-            }
-            box->accept();
-        }
-    }
-
-    QTimer waiting; // for a message box
-    std::function<void()> meanwhile;
 };
 
 } // namespace tumble
