@@ -1,21 +1,39 @@
 /* The card pictures and the icon, as they stand in their files, in the order of the set. */
 
+/* How each system's object files name read-only sections, and symbols that stay inside the program. */
+#if defined(__APPLE__)
+#define FILES .section __TEXT,__assets
+#define OFFSETS .section __TEXT,__asset_offsets
+#define HIDDEN .private_extern
+#define tumble_assets _tumble_assets
+#define tumble_asset_offsets _tumble_asset_offsets
+#elif defined(_WIN32)
+#define FILES .section .rdata$tumble_assets, "dr"
+#define OFFSETS .section .rdata$tumble_asset_offsets, "dr"
+#define HIDDEN .globl
+#else
+#define FILES .section .rodata.tumble_assets, "a", %progbits
+#define OFFSETS .section .rodata.tumble_asset_offsets, "a", %progbits
+#define HIDDEN .hidden
+    .section .note.GNU-stack, "", %progbits
+#endif
+
     .macro asset file
-    .section .rodata.tumble_assets, "a", %progbits
+    FILES
 9:  .incbin "\file"
-    .section .rodata.tumble_asset_offsets, "a", %progbits
+    OFFSETS
     .long 9b - tumble_assets
     .endm
 
-    .section .rodata.tumble_assets, "a", %progbits
+    FILES
     .globl tumble_assets
-    .hidden tumble_assets
+    HIDDEN tumble_assets
 tumble_assets:
 
-    .section .rodata.tumble_asset_offsets, "a", %progbits
+    OFFSETS
     .balign 4
     .globl tumble_asset_offsets
-    .hidden tumble_asset_offsets
+    HIDDEN tumble_asset_offsets
 tumble_asset_offsets:
 
     asset "AceClubs.gif"
@@ -77,9 +95,7 @@ tumble_asset_offsets:
     asset "CardBack4.gif"
     asset "tumble.gif"
 
-    .section .rodata.tumble_assets, "a", %progbits
+    FILES
 9:
-    .section .rodata.tumble_asset_offsets, "a", %progbits
+    OFFSETS
     .long 9b - tumble_assets
-
-    .section .note.GNU-stack, "", %progbits

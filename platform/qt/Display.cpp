@@ -21,8 +21,13 @@ constexpr unsigned longestWait = 10; // seconds
     std::_Exit(1);
 }
 
-void onAlarm(int /*signal*/) {
-    giveUp("tumble: the display does not answer\n");
+// A display may keep the program waiting for ever, on systems that know an alarm; elsewhere it is the system's own.
+// No seconds: it has answered.
+void expectAnswerWithin([[maybe_unused]] unsigned seconds) {
+#ifdef SIGALRM
+    static_cast<void>(std::signal(SIGALRM, [](int /*signal*/) { giveUp("tumble: the display does not answer\n"); }));
+    ::alarm(seconds);
+#endif
 }
 
 // The toolkit tells its troubles with the display in several lines, and then aborts where it finds none. What becomes
@@ -41,11 +46,10 @@ Display::Display() {
     static int count = 1;
 
     qInstallMessageHandler(onMessage);
-    static_cast<void>(std::signal(SIGALRM, onAlarm));
-    ::alarm(longestWait);
-    QGuiApplication::setDesktopFileName(QStringLiteral("tumble"));
+    expectAnswerWithin(longestWait);
+    QGuiApplication::setDesktopFileName(QStringLiteral(TUMBLE_ID));
     application_.emplace(count, arguments.data());
-    ::alarm(0);
+    expectAnswerWithin(0);
 }
 
 } // namespace tumble
