@@ -1,19 +1,9 @@
 #include "platform/DrawingSurface.h"
 
-#include <cstddef>
-
 namespace tumble {
 
-namespace {
-
-constexpr std::size_t usualOperations = 3;
-
-} // namespace
-
 Brush::Brush(DrawingSurface& surface, const Rect& place)
-    : surface_(surface), item_{.place = place, .operations = {}}, current_{place.left, place.top} {
-    item_.operations.reserve(usualOperations);
-}
+    : surface_(surface), item_{.place = place, .operations = {}}, current_{place.left, place.top} {}
 
 Brush::~Brush() {
     surface_.add(item_);
@@ -21,11 +11,11 @@ Brush::~Brush() {
 
 void Brush::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
     const Rect box{.left = x, .top = y, .right = width + x - 1, .bottom = height + y - 1};
-    item_.operations.emplace_back(PictureOperation{&picture, box});
+    item_.operations.push_back(PictureOperation{&picture, box});
 }
 
 void Brush::Line(Point from, Point to, Colour colour) {
-    item_.operations.emplace_back(LineOperation{from, to, colour});
+    item_.operations.push_back(LineOperation{from, to, colour});
     current_ = to;
 }
 
@@ -36,14 +26,14 @@ void Brush::Line(Point to, Colour colour) {
 void Brush::Line(const Rect& box, std::optional<Colour> colour, BoxFill fill) {
     const Colour resolved = colour.value_or(surface_.ForeColor());
     if (fill == BoxFill::Filled) {
-        item_.operations.emplace_back(FillOperation{box, resolved});
+        item_.operations.push_back(FillOperation{box, resolved});
     } else {
-        item_.operations.emplace_back(BoxOperation{box, resolved});
+        item_.operations.push_back(BoxOperation{box, resolved});
     }
 }
 
 void Brush::Circle(Point centre, float radius, Colour colour) {
-    item_.operations.emplace_back(CircleOperation{centre, radius, colour});
+    item_.operations.push_back(CircleOperation{centre, radius, colour});
 }
 
 DrawingSurface::DrawingSurface(float width, float height, Colour backColor)

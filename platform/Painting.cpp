@@ -23,19 +23,31 @@ Rect visiblePart(const std::vector<PaintItem>& items, std::size_t position) {
 
 } // namespace
 
+void Operations::push_back(const Operation& operation) {
+    if (many_.empty() && few_ < inside_.size()) {
+        inside_[few_++] = operation;
+        return;
+    }
+    if (many_.empty()) {
+        many_.assign(inside_.begin(), inside_.end());
+        few_ = 0;
+    }
+    many_.push_back(operation);
+}
+
 bool PaintItem::opaque() const {
     if (operations.empty()) {
         return false;
     }
-    if (const auto* fill = std::get_if<FillOperation>(&operations.front())) {
+    if (const auto* fill = std::get_if<FillOperation>(operations.begin())) {
         return fill->box.contains(place);
     }
-    const auto* picture = std::get_if<PictureOperation>(&operations.front());
+    const auto* picture = std::get_if<PictureOperation>(operations.begin());
     return picture != nullptr && picture->box.contains(place);
 }
 
 bool PaintItem::erases(Colour ground) const {
-    const auto* fill = operations.size() == 1 ? std::get_if<FillOperation>(&operations.front()) : nullptr;
+    const auto* fill = operations.size() == 1 ? std::get_if<FillOperation>(operations.begin()) : nullptr;
     return fill != nullptr && fill->colour == ground;
 }
 
@@ -65,22 +77,43 @@ const std::vector<PaintItem>& Painting::items() const {
     return items_;
 }
 
-// One pass in list order is enough: an erasure that goes can set free only later ones. Two places less than a pixel
-// apart can share a pixel, so they count as meeting; no scale is below 1, where a pixel is largest.
+// Mostly new items repaint the settled ones in their order, each in its place. As settled items do not cover one
+// another, such new ones do not either, so that only the others are compared with all. One pass in list order is
+// enough: an erasure that goes can set free only later ones. Two places less than a pixel apart can share a pixel, so
+// they count as meeting; no scale is below 1, where a pixel is largest.
 void Painting::prune() const {
-    std::vector<Rect> covers; // of the new items; empty for one that something beneath shows through
+    struct Cover {
+        std::size_t position;
+        Rect place;
+    };
+    std::vector<Cover> covers;
+    std::vector<Cover> others; // of them, that repaint nothing
+    std::vector<bool> repaints(items_.size());
+    std::size_t repainted = 0; // so many settled items, from the first
     for (std::size_t i = settled_; i < items_.size(); ++i) {
-        covers.push_back(items_[i].opaque() ? items_[i].place : Rect());
+        if (!items_[i].opaque()) {
+            continue;
+        }
+        covers.push_back({i, items_[i].place});
+        const PaintItem& next = items_[repainted];
+        if (repainted < settled_ && next.opaque() && next.place == items_[i].place) {
+            repaints[i] = true;
+            ++repainted;
+        } else {
+            others.push_back(covers.back());
+        }
     }
     std::size_t kept = 0;
     for (std::size_t i = 0; i < items_.size(); ++i) {
         PaintItem& item = items_[i];
-        const std::size_t firstLater = std::max(i + 1, settled_) - settled_;
-        const bool covered = std::any_of(covers.begin() + static_cast<std::ptrdiff_t>(firstLater), covers.end(),
-                                         [&](const Rect& cover) { return cover.contains(item.place); });
+        const auto coversItem = [&](const Cover& cover) {
+            return cover.position > i && cover.place.contains(item.place);
+        };
+        const auto& mayCover = repaints[i] ? others : covers;
         const auto meetsItem = [&](const PaintItem& earlier) { return earlier.place.meets(item.place, twipsPerPixel); };
         const auto lastKept = items_.begin() + static_cast<std::ptrdiff_t>(kept);
-        if (covered || (item.erases(ground_) && std::none_of(items_.begin(), lastKept, meetsItem))) {
+        if (i < repainted || std::any_of(mayCover.begin(), mayCover.end(), coversItem) ||
+            (item.erases(ground_) && std::none_of(items_.begin(), lastKept, meetsItem))) {
             continue;
         }
         if (kept != i) {

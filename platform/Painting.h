@@ -2,7 +2,10 @@
 
 #include "platform/Geometry.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <variant>
 #include <vector>
 
@@ -49,10 +52,37 @@ struct CircleOperation {
 
 using Operation = std::variant<PictureOperation, FillOperation, BoxOperation, LineOperation, CircleOperation>;
 
+/// A list of operations that keeps a few in itself: a step of a drag makes and drops one such list for each card.
+class Operations {
+public:
+    Operations() = default;
+    Operations(std::initializer_list<Operation> operations) {
+        std::for_each(operations.begin(), operations.end(), [this](const auto& operation) { push_back(operation); });
+    }
+
+    void push_back(const Operation& operation);
+
+    std::size_t size() const { return few_ + many_.size(); }
+    bool empty() const { return size() == 0; }
+    const Operation* begin() const { return many_.empty() ? inside_.data() : many_.data(); }
+    const Operation* end() const { return begin() + size(); }
+    const Operation& front() const { return *begin(); }
+    const Operation& back() const { return *(end() - 1); }
+
+    friend bool operator==(const Operations& a, const Operations& b) {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end());
+    }
+
+private:
+    std::array<Operation, 3> inside_;
+    std::size_t few_ = 0;
+    std::vector<Operation> many_; // all of them, when they are more
+};
+
 /// One bracketed piece of painting: the operations in their order, clipped to `place`.
 struct PaintItem {
     Rect place;
-    std::vector<Operation> operations;
+    Operations operations;
 
     /// True when the first operation covers the whole place, so that nothing beneath can show.
     bool opaque() const;

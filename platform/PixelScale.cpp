@@ -26,8 +26,9 @@ PixelScale::PixelScale(double factor) : factor_(factor >= 1 ? std::min(factor, 1
 int PixelScale::pixel(float twips) const {
     constexpr double outermost = 1 << 20;
     // Multiplied before it is divided, so that whole pixels come out whole.
-    const double place = std::floor(static_cast<double>(twips) * factor_ / twipsPerPixel);
-    return std::isnan(place) ? 0 : static_cast<int>(std::clamp(place, -outermost, outermost));
+    const double place = std::clamp(static_cast<double>(twips) * factor_ / twipsPerPixel, -outermost, outermost);
+    const int towardsZero = std::isnan(place) ? 0 : static_cast<int>(place);
+    return place < towardsZero ? towardsZero - 1 : towardsZero;
 }
 
 PixelRect PixelScale::pixels(const Rect& rect) const {

@@ -49,7 +49,7 @@ struct InFull {
     }
 };
 
-std::string whatItShows(const std::vector<Operation>& operations) {
+std::string whatItShows(const Operations& operations) {
     if (operations.empty()) {
         return "nothing";
     }
