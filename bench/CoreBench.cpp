@@ -40,7 +40,7 @@ private:
 
 void Shuffle(benchmark::State& state) {
     Pack pack(state.range(0));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         (*pack).sort(soShuffled);
     }
 }
@@ -50,7 +50,7 @@ BENCHMARK(Shuffle)->Arg(24)->Arg(52)->Arg(104);
 void Sort(benchmark::State& state, const CardOrder& order) {
     Pack pack(state.range(0));
     (*pack).sort(soShuffled);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         auto cards = (*pack).cards();
         Sorter::sortCards(cards, order);
         benchmark::DoNotOptimize(cards.data());
@@ -67,7 +67,7 @@ void Prune(benchmark::State& state) {
     (*pack).dealToTable(1300, 1000, 7644);
     Painting painting = pack.surface().painting();
     const auto items = painting.items();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const PaintItem& item : items) {
             painting.add(item);
         }

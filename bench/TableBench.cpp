@@ -82,7 +82,7 @@ void DragStep(benchmark::State& state) {
     Game<Desktop> game(state.range(0));
     game.press(firstCard);
     int step = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         game.move(onTheWay(step));
         game.show();
         step = (step + 1) % 200;
@@ -93,7 +93,7 @@ void DragStep(benchmark::State& state) {
 template<class Desktop>
 void Drop(benchmark::State& state) {
     Game<Desktop> game(state.range(0));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         game.press(firstCard);
         game.move(onTheWay(10));
@@ -107,7 +107,7 @@ void Drop(benchmark::State& state) {
 
 template<class Desktop>
 void Deal(benchmark::State& state) {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         std::optional<Game<Desktop>> game(std::in_place, state.range(0));
         state.PauseTiming();
         game.reset();
@@ -119,7 +119,7 @@ template<class Desktop>
 void HitTest(benchmark::State& state) {
     Game<Desktop> game(state.range(0));
     int step = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const Point at = onTheWay(step);
         benchmark::DoNotOptimize(game.tracker().identifyCard(at.x, at.y));
         step = (step + 1) % 200;

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <variant>
 
 namespace tumble {
@@ -106,21 +107,21 @@ void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale
         }
         return scale.pixels(place).intersected(pixels);
     };
-    for (auto item = items.rbegin(); item != items.rend(); ++item) {
-        if (const PixelRect visible = visiblePixels(item->place); !visible.empty()) {
-            topDown.push_back({&*item, scale.pixels(item->place), visible});
-            if (item->opaque()) {
-                covers.push_back(item->place);
+    std::for_each(items.rbegin(), items.rend(), [&](const PaintItem& item) {
+        if (const PixelRect visible = visiblePixels(item.place); !visible.empty()) {
+            topDown.push_back({&item, scale.pixels(item.place), visible});
+            if (item.opaque()) {
+                covers.push_back(item.place);
             }
         }
-    }
+    });
     QPainter painter(&image);
     painter.fillRect(toQRect(visiblePixels(around)), toQColor(ground));
-    for (auto shown = topDown.rbegin(); shown != topDown.rend(); ++shown) {
-        for (const Operation& operation : shown->item->operations) {
-            std::visit(ItemPainter{painter, scale, *shown, pictures}, operation);
+    std::for_each(topDown.rbegin(), topDown.rend(), [&](const Shown& shown) {
+        for (const Operation& operation : shown.item->operations) {
+            std::visit(ItemPainter{painter, scale, shown, pictures}, operation);
         }
-    }
+    });
 }
 
 } // namespace tumble
