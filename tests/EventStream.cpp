@@ -1,13 +1,12 @@
 #include "tests/EventStream.h"
 
 #include "platform/memory/Raster.h"
-#include "rules/PileAccepterTumble.h"
 #include "tests/Player.h"
 
 #include <algorithm>
 #include <bit>
 #include <limits>
-#include <set>
+#include <regex>
 
 namespace tumble {
 
@@ -24,10 +23,44 @@ struct Number {
     }
 };
 
-class Bytes {
-public:
-    explicit Bytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+/// The message boxes that a game can show.
+std::regex messages() {
+    const std::string rank = "(Two|Three|Four|Five|Six|Seven|Eight|Nine|Ten|Jack|Queen|King|Ace)";
+    const std::string suit = "(Diamond|Club|Heart|Spade)";
+    const std::string card = rank + " of " + suit + "s";
+    return std::regex("YOU WIN: CONGRATULATIONS!|Tumble Instructions: Drag [^]*|Invalid Move!: You must "
+                      "(play the lowest ranking card, a " +
+                      rank + "|follow suit with a " + suit + "|play either a " + card + "( or a " + card +
+                      ")? or a Joker)");
+}
 
+class Session {
+public:
+    explicit Session(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+
+    std::size_t run() {
+        const unsigned kind = next();
+        game_ = kind % 4 != 0;
+        table_.desktop.whileMessageIsOpen = [this] {
+            check();
+            at_ += next() % 8; // what the player does meanwhile is held back
+        };
+        table_.desktop.whileModal = [](Form& about) { about.Form_Close(); };
+        if (game_) {
+            chooseAndPlay();
+        }
+        std::size_t events = 0;
+        for (; !done() && !table_.desktop.ended(); ++events) {
+            game_ ? tableEvent() : operation();
+            check();
+        }
+        if (kind >= 252) {
+            checkPixels();
+        }
+        return events;
+    }
+
+private:
     bool done() const { return at_ >= bytes_.size(); }
     /// The next byte; zero when there is none left.
     unsigned next() { return done() ? 0 : bytes_[at_++]; }
@@ -45,120 +78,45 @@ public:
         const unsigned byte = next();
         return byte < 200   ? static_cast<float>(next16() % 20000) / 2 - 500
                : byte < 230 ? odd.at(byte % odd.size())
-                            : std::bit_cast<float>(number(0).value);
+                            : std::bit_cast<float>(next16() << 16U | next16());
     }
-    /// On the table or near it, often on a pile, now and then far out.
+    /// On the table or beyond its edges, often on a pile.
     Point place() {
         constexpr std::array<Point, 5> piles{{{300, 300}, {8644, 300}, {300, 5644}, {8644, 5644}, {4507, 3007}}};
         const unsigned byte = next();
-        if (byte < 100) {
-            return piles.at(byte % piles.size());
-        }
         const auto x = static_cast<float>(next16() % 10400) - 700;
         const auto y = static_cast<float>(next16() % 7400) - 700;
-        return byte < 254 ? Point{x, y} : byte < 255 ? Point{limits::infinity(), y} : Point{x, limits::lowest()};
+        return byte < 100 ? piles.at(byte % piles.size()) : Point{x, y};
     }
 
-private:
-    std::span<const std::uint8_t> bytes_;
-    std::size_t at_ = 0;
-};
-
-std::string withoutNames(const MemoryDesktop::Message& message) {
-    std::string text = message.caption + ": " + message.text;
-    for (const std::string name : {"Two", "Three", "Four", "Five", "Six", "Seven", "Eight", "Nine", "Ten", "Jack",
-                                   "Queen", "King", "Ace", "Diamond", "Club", "Heart", "Spade"}) {
-        for (std::size_t at = 0; (at = text.find(name)) != std::string::npos;) {
-            text.replace(at, name.size(), "#");
-        }
-    }
-    return text;
-}
-
-class Session {
-public:
-    explicit Session(std::span<const std::uint8_t> bytes) : in_(bytes) {}
-
-    std::size_t run() {
-        const unsigned kind = in_.next();
-        game_ = kind % 4 != 0;
-        table_.desktop.whileModal = [this](Form& about) {
-            while (table_.desktop.shows(about)) {
-                press(about); // once the bytes are used up, its only button
-            }
-        };
-        table_.desktop.whileMessageIsOpen = [this] {
-            if (game_) {
-                check();
-            }
-            for (unsigned late = in_.next() % 8; late > 0; --late) {
-                in_.next(); // what the player does meanwhile is held back
-            }
-        };
-        if (game_) {
-            chooseAndPlay();
-        }
-        std::size_t events = 0;
-        for (; !in_.done() && !table_.desktop.ended(); ++events) {
-            if (game_) {
-                tableEvent();
-            } else {
-                operation();
-            }
-            check();
-        }
-        if (kind >= 252) {
-            checkPixels();
-        }
-        return events;
-    }
-
-private:
     void chooseAndPlay() {
-        frmTumbleOptions& dialog = table_.program.options();
-        const auto choice = [this](unsigned choices) { return std::size_t{in_.next() % choices}; };
+        const Settings settings{next() % 8, next() % 3, next() % 6, std::size_t{next() % 16 < 15},
+                                next() % 4, next() % 2};
+        cards_ = cardsOfDeck.at(settings.deck);
         table_.program.Main();
-        for (int changes = 0; changes < 3; ++changes) {
-            const Settings settings{choice(8), choice(3), choice(6), choice(16) == 0 ? 0U : 1U, choice(4), choice(2)};
-            choose(dialog, settings);
-            dialog.sldBackDesign.Value(in_.number(5).value);
-            cards_ = cardsOfDeck.at(settings.deck);
-        }
-        dialog.cmdPlay.Click();
+        choose(table_.program.options(), settings);
+        table_.program.options().sldBackDesign.Value(number(5).value);
+        table_.program.options().cmdPlay.Click();
     }
 
-    /// A button with the mouse, one by Enter or by Esc, or the window's frame.
-    void press(Form& form) {
-        std::vector<const CommandButton*> buttons;
-        for (const AnyControl& control : form.controls()) {
-            if (auto* const* button = std::get_if<CommandButton*>(&control)) {
-                buttons.push_back(*button);
-            }
-        }
-        const unsigned which = in_.next();
-        const auto pressed = std::find_if(buttons.begin(), buttons.end(), [&](const auto* button) {
-            return which == 255   ? button->pressedByEnter()
-                   : which == 254 ? button->pressedByEsc()
-                                  : button == buttons.at(which % buttons.size());
-        });
-        if (which == 253) {
-            form.Form_Close();
-        } else if (pressed != buttons.end()) {
-            (*pressed)->Click();
-        }
+    /// A button, as the mouse or a key presses it, or the window's frame.
+    void press(unsigned which) {
+        frmTumble& window = table_.program.table();
+        const std::array buttons{&window.cmdHelp, &window.cmdAbout, &window.cmdExit};
+        which < buttons.size() ? buttons.at(which)->Click() : window.Form_Close();
     }
 
     void tableEvent() {
-        const unsigned kind = in_.next();
-        if (kind >= 254) {
-            press(table_.program.table());
+        const unsigned kind = next();
+        if (kind >= 252) {
+            press(kind - 252);
             return;
         }
-        const Point at = in_.place();
+        const Point at = place();
         const std::size_t painted = log().size();
         const bool armed = tracker().moveInProg();
         if (kind < 80) {
-            table_.press(at, static_cast<std::int16_t>(kind < 64 ? 1 : in_.number(4).value));
+            table_.press(at, static_cast<std::int16_t>(kind < 64 ? 1 : number(4).value));
         } else if (kind < 200) {
             table_.move(at);
         } else {
@@ -171,16 +129,16 @@ private:
 
     /// One operation of the tracker, a pack or a card on the table.
     void operation() {
-        const unsigned kind = in_.next() % 16;
-        const std::array n{in_.number(16), in_.number(4), in_.number(3), in_.number(1), in_.number(3),
-                           in_.number(5),  in_.number(9), in_.number(6), in_.number(3), in_.number(3)};
-        const auto [rank, suit, size, faceDir, visible, backStyle, dckType, sortOrder, xAlign, yAlign] = n;
-        const std::array place{in_.length(), in_.length(), in_.length()};
-        const auto [X, Y, right] = place;
+        const unsigned kind = next() % 16;
+        const std::array numbers{number(16), number(4), number(3), number(1), number(3),
+                                 number(5),  number(9), number(6), number(3), number(3)};
+        const auto [rank, suit, size, faceDir, visible, backStyle, dckType, sortOrder, xAlign, yAlign] = numbers;
+        const std::array lengths{length(), length(), length()};
+        const auto [X, Y, right] = lengths;
         if (kind < 3 && (cards_ += 4) < 200) {
             const auto pack = std::make_shared<CardPack>();
             pack->tracker(&tracker());
-            pack->accepter(suit.value == 0 ? nullptr : accepter_);
+            pack->accepter(suit.value == 0 ? nullptr : table_.accepter);
             pack->init(size, faceDir, backStyle, dckType);
             pack->sort(sortOrder);
             if (kind == 0) {
@@ -197,7 +155,7 @@ private:
         } else if (kind == 5) {
             tracker().removeCurCard();
         } else if (kind == 6) {
-            accepter_->dckType(dckType);
+            table_.accepter->dckType(dckType);
         } else if (kind < 10) {
             tracker().moveCurCard(X, Y);
         } else if (kind == 10) {
@@ -214,50 +172,40 @@ private:
     }
 
     void check() {
-        static const std::set<std::string> ofAGame{
-            "YOU WIN: CONGRATULATIONS!", "Invalid Move!: You must follow suit with a #",
-            "Invalid Move!: You must play the lowest ranking card, a #",
-            "Invalid Move!: You must play either a # of #s or a Joker",
-            "Invalid Move!: You must play either a # of #s or a # of #s or a Joker"};
         const std::string fault = tracker().checkSanity();
         // Operations may give a card on the table another kind.
         require(fault.empty() || (!game_ && fault == "what is neither a card nor a pile lies on the table"), fault);
-        for (const auto& message : table_.desktop.takeMessages()) {
-            require(ofAGame.contains(withoutNames(message)) || message.caption == "Tumble Instructions" ||
-                        (!game_ && (message.text.starts_with("Invalid ") || message.caption == "Invalid Move!")),
-                    withoutNames(message));
+        for (const auto& [text, caption] : table_.desktop.takeMessages()) {
+            static const std::regex ofAGame = messages();
+            require(!game_ || std::regex_match(caption + ": " + text, ofAGame), text);
         }
     }
 
     /// A drop ends with a redraw of the list and, unless a pile took it, of the dropped card. No card is missing.
     void checkDrop(std::size_t before) {
+        require(!tracker().moveInProg(), "the drag goes on");
+        const std::size_t dropped = log().size();
         const Painting& painting = table_.picture().painting();
         const std::size_t kept = painting.items().size();
-        require(!tracker().moveInProg(), "the drag goes on");
-        require(std::all_of(painting.items().begin(), painting.items().end(),
-                            [&](const auto& item) { return painting.bounds().meets(item.place, twipsPerPixel); }),
-                "something off the table is kept");
-        const std::size_t dropped = log().size();
+        const bool onTable = std::all_of(painting.items().begin(), painting.items().end(), [&](const auto& item) {
+            return painting.bounds().meets(item.place, twipsPerPixel);
+        });
         tracker().identifyCard(limits::quiet_NaN(), 0);
         tracker().endCurCardMove(); // of no card: a redraw of the list
-        const auto at = [this](std::size_t item) { return log().begin() + static_cast<std::ptrdiff_t>(item); };
-        std::vector<PaintItem> expected(at(dropped), log().end());
-        const std::vector<PaintItem> drop(at(before), at(dropped));
+        const auto drop = std::span(log()).subspan(before, dropped - before);
+        const auto list = std::span(log()).subspan(dropped);
         int cards = 0;
-        for (const auto& [place, operations] : expected) {
+        for (const auto& [place, operations] : list) {
             const bool edge = std::holds_alternative<LineOperation>(operations.front());
             cards += edge ? static_cast<int>(operations.size() - 3) / 4 - 1
                           : static_cast<int>(std::holds_alternative<PictureOperation>(operations.front()));
         }
         require(cards == cards_, std::to_string(cards) + " cards");
-        require(kept <= 2 * expected.size() + 8, "the painting grows");
-        const auto endsDrop = [&] {
-            return expected.size() <= drop.size() && std::equal(expected.rbegin(), expected.rend(), drop.rbegin());
-        };
-        if (!endsDrop() && std::find(expected.begin(), expected.end(), drop.back()) != expected.end()) {
-            expected.push_back(drop.back());
-        }
-        require(endsDrop(), "painted " + inWords(drop) + " instead of " + inWords(expected));
+        require(kept <= 2 * list.size() + 8, "the painting grows");
+        require(onTable, "something off the table is kept");
+        const auto after = std::search(drop.rbegin(), drop.rend(), list.rbegin(), list.rend()) - drop.rbegin();
+        const bool lastIsOnTable = std::find(list.begin(), list.end(), drop.back()) != list.end();
+        require(after <= 1 && lastIsOnTable, "a drop ends otherwise");
     }
 
     /// The painting's list shows the same pixels as everything that was painted.
@@ -273,10 +221,9 @@ private:
     CardTracker& tracker() const { return table_.tracker(); }
     const std::vector<PaintItem>& log() { return table_.desktop.log(table_.picture()); }
 
-    Bytes in_;
+    std::span<const std::uint8_t> bytes_;
+    std::size_t at_ = 0;
     Table table_;
-    std::shared_ptr<PileAccepterTumble> accepter_ =
-        std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });
     int cards_ = 0; // in the game, or about as many as operations have laid on the table
     bool game_ = false;
 };

@@ -9,32 +9,12 @@ namespace tumble {
 
 namespace {
 
-constexpr std::array lowestRanks{2, 2, 6, 7,
-                                 9, 2, 9, 7}; // of the decks, from the sixth of which on a card is there twice
+constexpr std::array lowestRanks{2, 2, 6, 7, 9, 2, 9, 7};                       // of the decks
 constexpr std::array<Point, 3> sizes{{{729, 1134}, {900, 1400}, {1233, 1918}}}; // width and height of a card
 constexpr std::array<Point, 4> corners{{{300, 300}, {8644, 300}, {300, 5644}, {8644, 5644}}}; // one for each suit
-constexpr std::array suits{"Diamonds", "Clubs", "Hearts", "Spades"};
-constexpr std::array ranks{"Two",  "Three", "Four", "Five",  "Six",  "Seven", "Eight",
-                           "Nine", "Ten",   "Jack", "Queen", "King", "Ace"};
 
 std::string onPile(const std::string& name) {
     return "Pile (" + name + ")";
-}
-
-// Where cards held by their top left corner touch no pile, and each leaves a strip of the one before it to see.
-std::vector<Point> freePlaces(Point size) {
-    const auto [w, h] = size;
-    std::vector<Point> places;
-    const auto addRow = [&places](float left, float right, float y) {
-        for (Point at{left, y}; at.x < right; at = {at.x + 150, y}) {
-            places.push_back(at);
-        }
-    };
-    addRow(w + 15, 8940 - 2 * w, 10);
-    addRow(w + 15, 8940 - 2 * w, 4010);
-    addRow(10, 4500 - 1.5F * w, 1960);
-    addRow(4525 + w / 2, 8900, 1960);
-    return places;
 }
 
 class Player {
@@ -54,15 +34,12 @@ public:
         expectTable("");
         lookOver();
         while (left_ > 0) {
-            if (playOne()) {
-                continue;
+            if (!playOne()) {
+                layAside(topOfDeck());
             }
-            const std::string inTheWay = topOfDeck();
-            require(!inTheWay.empty(), "no card that can be played is to be seen");
-            layAside(inTheWay);
         }
         lookOver();
-        require(seen_.empty() && topOfDeck().empty(), "the game is won, and a card is left");
+        require(seen_.empty() && topOfDeck() == "empty", "the game is won, and a card is left");
     }
 
 private:
@@ -71,13 +48,10 @@ private:
         return table_.label();
     }
 
+    /// The name of the card on the pile in the middle, if there is one.
     std::string topOfDeck() {
-        if (settings_.layout == 0) {
-            return "";
-        }
-        const std::string name = nameAt(deck_);
-        require(name.starts_with("Pile ("), "not the deck lies in the middle but " + name);
-        return name == onPile("empty") ? "" : name.substr(6, name.size() - 7);
+        const std::string& name = nameAt(deck_);
+        return name.starts_with("Pile (") ? name.substr(6, name.size() - 7) : "empty";
     }
 
     // Each card of a spread shows at least 150 by 1000 twips of itself.
@@ -90,11 +64,11 @@ private:
         }
     }
 
-    /// The card that goes onto the corner next; past the Ace there is none.
+    /// The card that goes onto the corner next; past the Ace there is none of that name.
     std::string wanted(std::size_t corner) const {
         const int copies = settings_.deck < 5 ? 1 : 2;
-        const int rank = lowestRanks.at(settings_.deck) + played_.at(corner) / copies;
-        return rank > 14 ? "" : std::string(ranks.at(static_cast<std::size_t>(rank - 2))) + " of " + suits.at(corner);
+        const auto rank = static_cast<CardRank>(lowestRanks.at(settings_.deck) + played_.at(corner) / copies);
+        return CardConstants::rankName(rank) + " of " + CardConstants::suitName(static_cast<CardSuit>(corner)) + "s";
     }
 
     std::optional<Point> find(const std::string& name) {
@@ -103,7 +77,7 @@ private:
                 return at->second;
             }
         }
-        return !name.empty() && topOfDeck() == name ? std::optional(deck_) : std::nullopt;
+        return topOfDeck() == name ? std::optional(deck_) : std::nullopt;
     }
 
     bool playOne() {
@@ -139,20 +113,13 @@ private:
         }
     }
 
-    /// Lays the deck's top card aside; now and then it is first offered to a corner of another suit, or put back.
+    /// Lays the deck's top card where it touches no pile and leaves a strip of the one laid before it to see.
     void layAside(const std::string& name) {
-        const Point to = free_.at(laidAside_);
-        Point from = deck_;
-        const std::size_t corner = laidAside_++ % 16;
-        if (corner < 4 && !name.ends_with(suits.at(corner)) && shown_.at(corner) != onPile("Joker")) {
-            drag(from, name, corners.at(corner));
-            require(table_.messages().starts_with("Invalid Move!: You must "), name + " is not refused");
-            from = corners.at(corner);
-        } else if (corner == 4) {
-            drag(deck_, name, {4500, 3000});
-            require(topOfDeck() == name, name + " is not back on the deck");
-        }
-        drag(from, name, to);
+        const int perRow = static_cast<int>(8925 - 3 * size_.x) / 100;
+        const auto column = static_cast<float>(laidAside_ % perRow);
+        const Point to{size_.x + 15 + 100 * column, laidAside_ < perRow ? 10.0F : 4010.0F};
+        ++laidAside_;
+        drag(deck_, name, to);
         require(nameAt(to) == name, name + " is not where it was laid");
         seen_.emplace(name, to);
         expectTable("");
@@ -163,8 +130,7 @@ private:
     int left_;
     Table table_;
     Point deck_{4517 - size_.x / 2, 3017 - size_.y / 2}; // near the top left corner of the pile in the middle
-    std::vector<Point> free_ = freePlaces(size_);
-    std::size_t laidAside_ = 0;
+    int laidAside_ = 0;
     int drags_ = 0;
     std::multimap<std::string, Point> seen_; // where cards showed when last looked at
     std::array<int, 4> played_{};            // cards of its suit on each corner
@@ -180,16 +146,14 @@ void require(bool holds, const std::string& what) {
 }
 
 void choose(frmTumbleOptions& dialog, const Settings& settings) {
-    // clang-format off
-    std::array{&dialog.optDeckStandard, &dialog.optDeckStandardWithJokers, &dialog.optDeck36Card, &dialog.optDeck32Card,
-               &dialog.optDeck24Card, &dialog.optDeckDouble, &dialog.optDeckPinochle, &dialog.optDeckBigPinochle}
-        .at(settings.deck)->Select();
-    std::array{&dialog.optCardSmall, &dialog.optCardMedium, &dialog.optCardNormal}.at(settings.size)->Select();
-    std::array{&dialog.optNaturalOrder, &dialog.optShuffled, &dialog.optByRankSuitAsc, &dialog.optByRankSuitDesc,
-               &dialog.optBySuitRankAsc, &dialog.optBySuitRankDesc}.at(settings.order)->Select();
-    std::array{&dialog.optLayoutSpread, &dialog.optLayoutInPile}.at(settings.layout)->Select();
-    std::array{&dialog.optFaceUp, &dialog.optFaceDown}.at(settings.face)->Select();
-    // clang-format on
+    const auto select = [](const Frame& frame, std::size_t choice) {
+        std::get<OptionButton*>(frame.controls().at(choice))->Select();
+    };
+    select(dialog.fraDeckType, settings.deck);
+    select(dialog.fraCardSize, settings.size);
+    select(dialog.fraCardOrder, settings.order);
+    select(dialog.fraLayout, settings.layout);
+    select(dialog.fraFaceDir, settings.face);
     dialog.sldBackDesign.Value(static_cast<int>(settings.back) + 1);
 }
 

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <sstream>
+#include <utility>
 #include <variant>
 
 namespace tumble {
@@ -14,8 +15,7 @@ std::string colourName(Colour colour) {
     static const std::map<Colour, std::string> names{
         {0, "black"},         {0x0000FF, "red"},      {0x00FF00, "green"},      {0xFF0000, "blue"},
         {0x00FFFF, "yellow"}, {0x666666, "darkGrey"}, {0x333333, "darkerGrey"}, {tableGreen, "ground"}};
-    const auto found = names.find(colour);
-    return found == names.end() ? std::to_string(colour) : found->second;
+    return names.at(colour);
 }
 
 std::string at(Point point) {
@@ -50,13 +50,10 @@ struct InFull {
 };
 
 std::string whatItShows(const Operations& operations) {
-    if (operations.empty()) {
-        return "nothing";
-    }
-    if (const auto* picture = std::get_if<PictureOperation>(&operations.front())) {
+    if (const auto* picture = std::get_if<PictureOperation>(operations.begin())) {
         return picture->picture->Key;
     }
-    if (const auto* fill = std::get_if<FillOperation>(&operations.front())) {
+    if (const auto* fill = std::get_if<FillOperation>(operations.begin())) {
         const bool marked = std::holds_alternative<CircleOperation>(operations.back());
         return (marked ? "marked " : "") + colourName(fill->colour);
     }
@@ -67,7 +64,7 @@ std::string whatItShows(const Operations& operations) {
 
 } // namespace
 
-std::string inWords(const std::vector<PaintItem>& items) {
+std::string inWords(std::span<const PaintItem> items) {
     return joined(items, [](const PaintItem& item) {
         return whatItShows(item.operations) + at(Point{item.place.left, item.place.top});
     });
@@ -92,12 +89,8 @@ std::shared_ptr<Card> makeJoker() {
 Table::Table() {
     program.tableTracker = std::make_unique<CardTracker>();
     tracker().picture(&picture());
+    accepter->dckType(dtStandard);
     desktop.keepLog();
-}
-
-std::string Table::nameAt(Point at) const {
-    const auto crd = tracker().identifyCard(at.x, at.y);
-    return crd == nullptr ? "" : crd->getStr();
 }
 
 void Table::lay(CardRank rank, CardSuit suit, float X, float Y) const {
@@ -105,10 +98,10 @@ void Table::lay(CardRank rank, CardSuit suit, float X, float Y) const {
 }
 
 std::shared_ptr<CardPack> Table::layPile(float X, float Y, const Cards& cards,
-                                         const std::shared_ptr<PileAccepter>& accepter) const {
+                                         const std::shared_ptr<PileAccepter>& taker) const {
     auto pile = std::make_shared<CardPack>();
     pile->tracker(&tracker());
-    pile->accepter(accepter);
+    pile->accepter(taker);
     for (const auto& crd : cards) {
         pile->addCardToTop(crd);
     }
@@ -125,9 +118,7 @@ void Table::drag(Point from, Point to) {
 
 std::string Table::painted() {
     const auto& log = desktop.log(picture());
-    const std::vector<PaintItem> fresh(log.begin() + static_cast<std::ptrdiff_t>(seen_), log.end());
-    seen_ = log.size();
-    return inWords(fresh);
+    return inWords(std::span(log).subspan(std::exchange(seen_, log.size())));
 }
 
 std::string Table::cards() {

@@ -2,17 +2,19 @@
 
 #include "game/MainMod.h"
 #include "platform/memory/MemoryDesktop.h"
+#include "rules/PileAccepterTumble.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
 namespace tumble {
 
 /// What items show and where their places begin: "AceSpades 100,200; edge of 3 0,0; marked yellow 0,8.5".
-std::string inWords(const std::vector<PaintItem>& items);
+std::string inWords(std::span<const PaintItem> items);
 /// Everything an item paints: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
 std::string inFull(const PaintItem& item);
 
@@ -28,13 +30,12 @@ public:
     CardTracker& tracker() const { return *program.tableTracker; }
     PictureBox& picture() { return program.table().picTable; }
     const std::string& label() { return program.table().lblCurrentCard.Caption(); }
-    std::string nameAt(Point at) const;
 
     /// Lays a small card, face up, with its top left corner at the place.
     void lay(CardRank rank, CardSuit suit, float X, float Y) const;
     /// Lays a pile of small cards, the bottom one first, with its top left corner at the place.
     std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
-                                      const std::shared_ptr<PileAccepter>& accepter = nullptr) const;
+                                      const std::shared_ptr<PileAccepter>& taker = nullptr) const;
 
     void press(Point at, std::int16_t button = 1) { picture().MouseDown(button, 0, at.x, at.y); }
     void move(Point to) { picture().MouseMove(0, 0, to.x, to.y); }
@@ -50,6 +51,9 @@ public:
 
     MemoryDesktop desktop{application()};
     MainMod program;
+    /// The rules of a game that is not about to be won: at first, with a standard deck.
+    std::shared_ptr<PileAccepterTumble> accepter =
+        std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });
 
 private:
     std::size_t seen_ = 0;

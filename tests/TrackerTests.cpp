@@ -7,89 +7,145 @@
 namespace tumble {
 namespace {
 
-TEST(CardTrackerTest, AddedCardsLieOnTopAndAreDrawnAtOnce) {
-    Table table;
-    CardTracker& tracker = table.tracker();
-    const auto pack = std::make_shared<CardPack>();
-    tracker.addCard(rkFive, suHeart, 100, 200, csNormal, fdFaceUp, bsLast);
-    tracker.addJoker(700, 250, csMedium, fdFaceDown, bsLast);
-    tracker.addPileCard(2000, 300, csSmall, pack);
-    tracker.addPileCard(8944, 5944, csMedium, pack, paFar, paFar);
-    EXPECT_EQ(table.painted(), "FiveHearts 100,200; CardBack4 700,250; green 2000,300; green 8045,4545");
-    EXPECT_EQ(tracker.identifyCard(8944, 5944)->pack(), pack);
-}
-
-TEST(CardTrackerTest, PlaceFindsTheTopmostCardEdgesIncluded) {
-    Table table;
-    table.lay(rkFive, suHeart, 100, 200); // to 828, 1333
-    table.lay(rkSix, suHeart, 500, 200);  // to 1228, 1333
-    table.layPile(1200, 1300);
-    const std::vector<std::pair<Point, std::string>> cases{
-        {{100, 200}, "Five of Hearts"},  {{99.5F, 200}, ""},   {{100, 199.5F}, ""},
-        {{499, 1333}, "Five of Hearts"}, {{499, 1333.5F}, ""}, {{500, 200}, "Six of Hearts"},
-        {{1228, 200}, "Six of Hearts"},  {{1228.5F, 200}, ""}, {{1200, 1300}, "Pile (empty)"}};
-    for (const auto& [at, found] : cases) {
-        EXPECT_EQ(table.nameAt(at), found) << at.x << "," << at.y;
-        EXPECT_EQ(table.tracker().checkSanity(), "");
-    }
-    table.tracker().identifyCard(500, 200)->visibility({});
-    EXPECT_EQ(table.nameAt({500, 200}), "Five of Hearts");
-}
-
-// Three cards side by side, each a little over the one before it; the second is the current one.
-class CurrentCardTest : public testing::Test {
+// Three cards side by side, each a little over the one before it, and a pile; the second card is the current one.
+class CardTrackerTest : public testing::Test {
 protected:
-    CurrentCardTest() {
+    CardTrackerTest() {
         table.lay(rkTwo, suClub, 0, 0);
-        table.lay(rkThree, suClub, 500, 0);
-        table.lay(rkFour, suClub, 1000, 0);
-        table.painted();
+        table.lay(rkThree, suClub, 500, 0);                     // to 1228, 1133
+        tracker.addJoker(1000, 0, csSmall, fdFaceDown, bsLast); // to 1728, 1133
+        table.layPile(1700, 1100);
+        EXPECT_EQ(table.painted(), "TwoClubs 0,0; ThreeClubs 500,0; CardBack4 1000,0; green 1700,1100");
         tracker.identifyCard(600, 100);
     }
     Table table;
     CardTracker& tracker = table.tracker();
 };
 
-TEST_F(CurrentCardTest, IsBroughtToTheTopAndDrawnAlone) {
+TEST_F(CardTrackerTest, PlaceFindsTheTopmostCardEdgesIncluded) {
+    const std::vector<std::pair<Point, std::string>> cases{
+        {{0, 0}, "Two of Clubs"},      {{-0.5F, 0}, "None"},     {{0, -0.5F}, "None"},
+        {{499, 1133}, "Two of Clubs"}, {{499, 1133.5F}, "None"}, {{500, 0}, "Three of Clubs"},
+        {{1728, 0}, "Joker"},          {{1728.5F, 0}, "None"},   {{1700, 1100}, "Pile (empty)"}};
+    for (const auto& [at, found] : cases) {
+        table.move(at);
+        EXPECT_EQ(table.label(), found) << at.x << "," << at.y;
+        EXPECT_EQ(tracker.checkSanity(), "");
+    }
+    tracker.identifyCard(500, 0)->visibility({});
+    EXPECT_EQ(tracker.identifyCard(500, 0)->getStr(), "Two of Clubs");
+}
+
+TEST_F(CardTrackerTest, CurrentCardIsBroughtToTheTopFlippedAndRemoved) {
+    tracker.flipCurCard();
+    EXPECT_EQ(table.painted(), "CardBack1 500,0; CardBack4 1000,0; green 1700,1100");
     tracker.bringCurCardToTop();
     tracker.flipCurCard();
     EXPECT_EQ(tracker.checkSanity(), "");
-    EXPECT_EQ(table.painted(), "ThreeClubs 500,0; CardBack1 500,0");
-    EXPECT_EQ(table.cards(), "TwoClubs 0,0; FourClubs 1000,0; CardBack1 500,0");
-}
-
-TEST_F(CurrentCardTest, IsFlippedAndRemovedAmongTheOthers) {
-    tracker.flipCurCard();
-    EXPECT_EQ(table.painted(), "CardBack1 500,0; FourClubs 1000,0");
+    EXPECT_EQ(table.painted(), "CardBack1 500,0; ThreeClubs 500,0");
+    EXPECT_EQ(table.cards(), "TwoClubs 0,0; CardBack4 1000,0; green 1700,1100; ThreeClubs 500,0");
+    tracker.identifyCard(0, 0);
     tracker.removeCurCard();
-    EXPECT_EQ(table.painted(), "ground 500,0; TwoClubs 0,0; FourClubs 1000,0");
+    EXPECT_EQ(table.painted(), "ground 0,0; CardBack4 1000,0; green 1700,1100; ThreeClubs 500,0");
     EXPECT_EQ(tracker.checkSanity(), "");
-}
-
-TEST_F(CurrentCardTest, WithNoneNothingIsDone) {
-    tracker.identifyCard(5000, 5000);
-    tracker.bringCurCardToTop();
+    tracker.bringCurCardToTop(); // of none
     tracker.flipCurCard();
     tracker.removeCurCard();
-    tracker.startCurCardMove(5000, 5000);
+    tracker.startCurCardMove(500, 0);
     EXPECT_FALSE(tracker.moveInProg());
     EXPECT_EQ(table.painted(), "");
-    EXPECT_EQ(table.cards(), "TwoClubs 0,0; ThreeClubs 500,0; FourClubs 1000,0");
 }
 
-TEST(CardTrackerTest, TellsWhatIsOutOfOrder) {
-    Table table;
+TEST_F(CardTrackerTest, TellsWhatIsOutOfOrder) {
     const auto five = makeCard(rkFive, suHeart);
     table.layPile(0, 0, {makeJoker(), five});
-    EXPECT_EQ(table.tracker().checkSanity(), "");
+    EXPECT_EQ(tracker.checkSanity(), "");
     table.layPile(0, 0, {five});
-    EXPECT_EQ(table.tracker().checkSanity(), "a card of a pack lies in a second place");
+    EXPECT_EQ(tracker.checkSanity(), "a card of a pack lies in a second place");
     Table other;
     other.layPile(0, 0, {five});
     other.tracker().addExistingCard(five);
     EXPECT_EQ(other.tracker().checkSanity(), "a card lies on the table twice");
     five->visibility({});
     EXPECT_EQ(other.tracker().checkSanity(), "what is neither a card nor a pile lies on the table");
+}
+
+// Small cards: 729 by 1134 twips.
+class DragTest : public testing::Test {
+protected:
+    Table table;
+    CardTracker& tracker = table.tracker();
+};
+
+TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
+    table.lay(rkFive, suHeart, 1000.5F, 1000.5F); // held by its edge rounded to 1000
+    for (const Point to : {Point{8944.5F, 3000}, {-0.5F, 3000}, {3000, 5944.5F}, {3000, -0.5F}}) {
+        table.press({1010, 1020});
+        table.painted();
+        tracker.moveCurCard(to.x, to.y);
+        EXPECT_EQ(table.painted(), "FiveHearts 1000.5,1000.5; FiveHearts 1000.5,1000.5") << to.x << "," << to.y;
+    }
+    for (const Point to : {Point{0, 0}, {8944, 5944}}) {
+        table.press({1010, 1020});
+        tracker.moveCurCard(to.x, to.y);
+        tracker.moveCurCard(1010, 1020);
+        EXPECT_EQ(table.cards(), to.x == 0 ? "FiveHearts -10,-20" : "FiveHearts 8934,5924");
+        table.drag({to.x, to.y}, {1010, 1020});
+    }
+}
+
+TEST_F(DragTest, PileShowsTheCardAtOnceThatItTakesAndLiesUnderTheOneItRefuses) {
+    table.layPile(3000, 0, {makeCard(rkFour, suHeart)}, table.accepter);
+    table.layPile(6000, 0, {}, table.accepter);
+    table.lay(rkFive, suHeart, 1000, 1000);
+    table.lay(rkSix, suHeart, 5000, 1000);
+    table.drag({1000, 1000}, {6010, 20});
+    table.press({6010, 20});
+    table.move({3010, 20});
+    table.painted();
+    table.release({3010, 20});
+    EXPECT_EQ(table.painted(),
+              "ground 3010,20; marked yellow 3000,0; blue 6000,0; blue 5000,1000; FiveHearts 3010,20; "
+              "ground 3010,20; FiveHearts 3000,0; edge of 2 3000,0; green 6000,0; SixHearts 5000,1000");
+    EXPECT_EQ(table.messages(), "Invalid Move!: You must play the lowest ranking card, a Two");
+}
+
+TEST_F(DragTest, PressOnAPileTakesItsTopCard) {
+    table.layPile(3000.5F, 101.5F, {makeCard(rkFour, suHeart), makeCard(rkFive, suHeart)});
+    table.lay(rkSix, suHeart, 5000, 1000);
+    table.painted();
+    table.press({3100, 302});
+    table.move({1100, 1200});
+    EXPECT_EQ(table.painted(), "ground 3000,102; marked yellow 3000.5,101.5; blue 5000,1000; FiveHearts 1000,1000");
+    table.release({1100, 1200});
+    table.drag({3100, 302}, {3100, 302}); // a click puts it back
+    table.drag({3100, 302}, {7100, 1200});
+    table.press({5000, 1000});
+    table.drag({3100, 302}, {8100, 1200}); // an empty pile lets the card go that the mouse held
+    EXPECT_EQ(table.cards(), "green 3000.5,101.5; SixHearts 5000,1000; FiveHearts 1000,1000; FourHearts 7000,1000");
+}
+
+// The card is dropped at (3000, 2000), so it reaches to (3728, 3133).
+TEST_F(DragTest, PileThatTheCardCoversMostCloselyTakesIt) {
+    // clang-format off
+    const std::vector<std::pair<std::vector<Point>, std::string>> cases{
+        {{{2272, 2000}}, "2272,2000"}, {{{2271, 2000}}, "3000,2000"}, {{{3728, 2000}}, "3728,2000"},
+        {{{3729, 2000}}, "3000,2000"}, {{{3000, 867}}, "3000,867"}, {{{3000, 866}}, "3000,2000"},
+        {{{3000, 3133}}, "3000,3133"}, {{{3000, 3134}}, "3000,2000"},
+        {{{2501, 2000}, {3500, 2000}}, "2501,2000"}, {{{3499, 2000}, {2500, 2000}}, "3499,2000"},
+        {{{3000, 1500}, {3000, 2499}}, "3000,2499"}, {{{3000, 2501}, {3000, 1500}}, "3000,1500"},
+        {{{2500, 2000}, {3500, 2000}}, "2500,2000"}, // the same area: the earlier one
+        {{{3400, 2000}, {3000, 2500}}, "3000,2500"}}; // 1128 by 1133 against 728 by 1633
+    // clang-format on
+    for (const auto& [piles, place] : cases) {
+        Table fresh;
+        for (const Point at : piles) {
+            fresh.layPile(at.x, at.y);
+        }
+        fresh.lay(rkFive, suHeart, 100, 100);
+        fresh.drag({100, 100}, {3000, 2000});
+        EXPECT_NE(fresh.cards().find("FiveHearts " + place), std::string::npos) << place;
+    }
 }
 
 } // namespace

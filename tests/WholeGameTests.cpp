@@ -1,3 +1,4 @@
+#include "tests/EventStream.h"
 #include "tests/Player.h"
 
 #include <gtest/gtest.h>
@@ -33,6 +34,20 @@ TEST_P(EverySetting, IsPlayedToTheWinWithEveryBackAndFace) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Deck, EverySetting, testing::Range<std::size_t>(0, 8));
+
+class EventStream : public testing::TestWithParam<unsigned> {};
+
+TEST_P(EventStream, HoldsThroughRandomSessions) {
+    std::mt19937 random(GetParam());
+    for (std::size_t events = 0; events < 125000;) {
+        std::vector<std::uint8_t> bytes(random() % 4096);
+        std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<std::uint8_t>(random()); });
+        SCOPED_TRACE(testing::Message() << "after " << events << " events");
+        ASSERT_NO_THROW(events += runSession(bytes));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seed, EventStream, testing::Range(1U, 9U));
 
 } // namespace
 } // namespace tumble
