@@ -44,6 +44,8 @@ TEST(PaintingTest, ListsWhatStillShows) {
         {{lower, {wide, {BoxOperation{wide, 0}, FillOperation{wide, 0}}}}, "red 100,100; outline 90,90"},
         {{lower, {wide, {PictureOperation{&card, {90, 90, 209, 308}}}}}, "red 100,100; card 90,90"},
         {{far, lower, far, lower}, "blue 500,0; red 100,100"},
+        {{lower, fill({120, 120, 130, 130}, blue), lower}, "red 100,100"},
+        {{lower, {lower.place, {BoxOperation{wide, 0}}}, lower, fill(lower.place, blue)}, "blue 100,100"},
         // An erasure shows only over what it erases in part.
         {{erasure({100, 100, 199, 299}), fill({150, 150, 250, 250}, red)}, "red 150,150"},
         {{{wide, {FillOperation{wide, tableGreen}, BoxOperation{wide, 0}}}}, "ground 90,90"},
@@ -62,13 +64,17 @@ TEST(PaintingTest, ListsWhatStillShows) {
         {{fill({-99, 0, -15, 9}, red), fill({3014, 0, 3099, 9}, red), fill({0, 2014, 9, 2099}, red)},
          "red -99,0; red 3014,0; red 0,2014"}};
     for (const auto& [added, shown] : cases) {
-        Painting readOften(3000, 2000, tableGreen);
-        for (const PaintItem& item : added) {
-            readOften.add(item);
-            readOften.items();
-        }
-        EXPECT_EQ(inWords(readOften.items()), shown);
         EXPECT_EQ(inWords(painted(added).items()), shown);
+        for (const std::size_t readFirst : {0U, 1U}) { // read after every second item
+            Painting painting(3000, 2000, tableGreen);
+            for (std::size_t i = 0; i < added.size(); ++i) {
+                painting.add(added[i]);
+                if (i % 2 == readFirst) {
+                    painting.items();
+                }
+            }
+            EXPECT_EQ(inWords(painting.items()), shown);
+        }
     }
 }
 
