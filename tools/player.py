@@ -246,10 +246,10 @@ class Game:
             found += children(parent)  # while it is gone through
         return [seen for seen in found if seen.get_role_name() == role]
 
-    def press(self, caption):
+    def press(self, caption, role="push button"):
         """Clicks on a button, where the accessibility bus has it."""
-        wait(f"the button {caption}", lambda: caption in self.read("push button"))
-        button = next(button for button in self.seen("push button") if button.get_name() == caption)
+        wait(f"the button {caption}", lambda: caption in self.read(role))
+        button = next(button for button in self.seen(role) if button.get_name() == caption)
         place = button.get_extents(atspi().CoordType.SCREEN)
         self.screen.xdotool("mousemove", place.x + place.width // 2, place.y + place.height // 2, "click", 1)
 

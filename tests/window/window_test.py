@@ -10,6 +10,19 @@ from player import CORNERS, FREE, Game, Screen, in_spread, require_packages, sto
 
 LOWEST = "You must play the lowest ranking card, a Two"
 BELOW = (3900, 4200)  # below the spread
+CHOICES = ["Small", "Medium", "Normal", "Natural", "Shuffled", "By rank then suit, ascending",
+           "By rank then suit, descending", "By suit then rank, ascending", "By suit then rank, descending",
+           "Face Up", "Face Down", "Spread", "In Pile"]
+DECKS = {
+    "Standard with Jokers": "Standard 52-card deck plus two jokers",
+    "36-card deck": "Standard 52-card deck without any 2, 3, 4, or 5s",
+    "32-card deck": "Standard 52-card deck without any 2, 3, 4, 5, or 6s",
+    "24-card deck": "Standard 52-card deck without any 2, 3, 4, 5, 6, 7, or 8s",
+    "Double": "Two standard 52-card decks",
+    "Pinochle": "Two 24-card decks",
+    "Big Pinochle": "Two 32-card decks",
+    "Standard": "Standard 52-card deck",
+}
 
 
 class WindowTest(unittest.TestCase):
@@ -68,6 +81,10 @@ class WindowTest(unittest.TestCase):
         game = self.start()
         wait("the options", lambda: game.read("slider") == ["Back design"])
         self.assertEqual(game.read("image"), ["Card size preview", "Back design preview"])
+        self.assertEqual(sorted(game.read("radio button")), sorted([*CHOICES, *DECKS]))
+        for deck, cards in DECKS.items():
+            game.press(deck, "radio button")
+            wait(cards, lambda: game.read("label") == [cards])
         game.press("Play")
         game.in_front("Tumble")
         wait("the table", lambda: game.read("image") == ["Table"])
