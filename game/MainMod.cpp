@@ -10,7 +10,8 @@ namespace {
 
 constexpr float spreadLeft = 1300; // twips, as all below
 constexpr float spreadTop = 1000;
-constexpr float pileMargin = 71; // right of and below the piles in the far corners, and right of the spread
+// Right of and below the piles in the far corners, and right of the spread.
+constexpr float pileMargin = CardTracker::margin;
 
 } // namespace
 

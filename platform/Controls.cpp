@@ -17,6 +17,10 @@ void Control::Caption(std::string caption) {
     }
 }
 
+bool Control::takesInput() const {
+    return desktop().takesInput(container_.form());
+}
+
 void Control::changed() {
     desktop().changed(*this);
 }
@@ -41,10 +45,16 @@ Label::Label(Container& container, std::string name, std::string caption, const 
 CommandButton::CommandButton(Container& container, std::string name, std::string caption, const Place& place,
                              int tabIndex, Handler click, ButtonKeys pressedBy, ButtonFace look)
     : Control(container, std::move(name), std::move(caption), place, tabIndex),
-      Click(std::move(click)),
       keys(pressedBy),
-      face(look) {
+      face(look),
+      click_(std::move(click)) {
     container.add(this);
+}
+
+void CommandButton::Click() const {
+    if (takesInput()) {
+        click_();
+    }
 }
 
 OptionButton::OptionButton(Container& container, std::string name, std::string caption, const Place& place,
@@ -57,7 +67,7 @@ OptionButton::OptionButton(Container& container, std::string name, std::string c
 }
 
 void OptionButton::Select() {
-    if (value_) {
+    if (value_ || !takesInput()) {
         return;
     }
     for (const AnyControl& control : container().controls()) {

@@ -53,8 +53,9 @@ private:
 };
 
 /// What every control has. Controls hold their state; the desktop shows it and calls the operations and events that
-/// answer to what the player does, as a test does. An ampersand marks a caption's access key; the caption of a picture
-/// box or a slider does not show, it is what a screen reader calls the control.
+/// answer to what the player does, as a test does. On a form that takes no input a button does nothing. An ampersand
+/// marks a caption's access key; the caption of a picture box or a slider does not show, it is what a screen reader
+/// calls the control.
 class Control {
 public:
     Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
@@ -69,6 +70,8 @@ public:
     Container& container() const { return container_; }
     const std::string& Caption() const { return caption_; }
     void Caption(std::string caption);
+    /// Whether what the player does reaches the control.
+    bool takesInput() const;
 
 protected:
     ~Control() = default;
@@ -83,8 +86,8 @@ private:
     int tabIndex_;
 };
 
-/// A drawing surface that reports the mouse: button 1 left, 2 right, 4 middle (for a move, the sum of those held);
-/// shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips, also outside the box while a button is held.
+/// A drawing surface that hears of the mouse from a `Hand`: button 1 left, 2 right, 4 middle (for a move, the sum of
+/// those held); shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips.
 class PictureBox : public Control, public DrawingSurface {
 public:
     using MouseEvent = std::function<void(std::int16_t Button, std::int16_t Shift, float X, float Y)>;
@@ -95,6 +98,8 @@ public:
     MouseEvent MouseDown;
     MouseEvent MouseMove;
     MouseEvent MouseUp;
+    /// The part in which a held button moves things, in whole twips; at first, everywhere.
+    Rect reach{.left = -1e6F, .top = -1e6F, .right = 1e6F, .bottom = 1e6F};
 
 protected:
     void painted(const PaintItem& item) override;
@@ -121,12 +126,15 @@ public:
     CommandButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
                   Handler click, ButtonKeys pressedBy = ButtonKeys::None, ButtonFace look = ButtonFace::Caption);
 
+    void Click() const;
     bool pressedByEnter() const { return keys == ButtonKeys::Enter || keys == ButtonKeys::EnterAndEsc; }
     bool pressedByEsc() const { return keys == ButtonKeys::Esc || keys == ButtonKeys::EnterAndEsc; }
 
-    const Handler Click;
     const ButtonKeys keys;
     const ButtonFace face;
+
+private:
+    Handler click_;
 };
 
 enum class Choice { Open, Selected };

@@ -13,6 +13,18 @@ Desktop* desktopInUse = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-glo
 
 Desktop::Desktop(Application application) : application_(std::move(application)) {}
 
+bool Desktop::takesInput(const Form& form) const {
+    return (modal_.empty() || modal_.back() == &form) && form.MousePointer() != Pointer::Hourglass;
+}
+
+Desktop::Modal::Modal(Desktop& desktop, const Form* form) : desktop_(desktop) {
+    desktop_.modal_.push_back(form);
+}
+
+Desktop::Modal::~Modal() {
+    desktop_.modal_.pop_back();
+}
+
 Desktop& desktop() {
     assert(desktopInUse != nullptr);
     return *desktopInUse;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tumble {
 
@@ -33,6 +34,10 @@ public:
 
     const Application& App() const { return application_; }
 
+    /// Whether what the player does reaches the form: no message box is open, no other form is modal, and the hourglass
+    /// does not show over it.
+    bool takesInput(const Form& form) const;
+
     virtual void Show(Form& form, Modality modality) = 0;
     virtual void Hide(Form& form) = 0;
     virtual void Unload(Form& form) = 0;
@@ -52,8 +57,24 @@ public:
 
     virtual Random& random() = 0;
 
+protected:
+    /// While it lives, only the modal form takes input; of a message box, which is none of the forms, no form does.
+    class Modal {
+    public:
+        explicit Modal(Desktop& desktop, const Form* form = nullptr);
+        Modal(const Modal&) = delete;
+        Modal& operator=(const Modal&) = delete;
+        Modal(Modal&&) = delete;
+        Modal& operator=(Modal&&) = delete;
+        ~Modal();
+
+    private:
+        Desktop& desktop_;
+    };
+
 private:
     Application application_;
+    std::vector<const Form*> modal_; // the last one opened is in front; null for a message box
 };
 
 /// The desktop in use.

@@ -10,6 +10,9 @@ using Colour = std::int32_t;
 
 /// How many twips one pixel of an unscaled screen is wide and high.
 inline constexpr float twipsPerPixel = 15;
+/// How many device pixels stand for each pixel of an unscaled screen, at the least; and so the widest pixel, in twips.
+inline constexpr float leastFactor = 0.75F;
+inline constexpr float widestPixel = twipsPerPixel / leastFactor;
 
 /// A point in twips, origin at the top left, y downwards.
 struct Point {
@@ -29,6 +32,7 @@ struct Rect {
     /// True also when an edge is not a number.
     bool empty() const { return !(left <= right && top <= bottom); }
 
+    bool contains(Point at) const { return left <= at.x && at.x <= right && top <= at.y && at.y <= bottom; }
     bool contains(const Rect& other) const {
         return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
     }
@@ -49,6 +53,10 @@ struct Rect {
                 .top = std::max(top, other.top),
                 .right = std::min(right, other.right),
                 .bottom = std::min(bottom, other.bottom)};
+    }
+
+    Rect grown(float by) const {
+        return {.left = left - by, .top = top - by, .right = right + by, .bottom = bottom + by};
     }
 
     /// A rectangle that holds all of this one that `cover` leaves to see, and of the cover at most an edge.

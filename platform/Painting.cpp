@@ -55,7 +55,7 @@ Painting::Painting(float width, float height, Colour ground)
     : bounds_{.left = 0, .top = 0, .right = width - 1, .bottom = height - 1}, ground_(ground) {}
 
 void Painting::add(const PaintItem& item) {
-    if (item.place.empty() || !bounds_.meets(item.place, twipsPerPixel)) {
+    if (item.place.empty() || !bounds_.meets(item.place, fringe)) {
         return;
     }
     items_.push_back(item);
@@ -80,7 +80,7 @@ const std::vector<PaintItem>& Painting::items() const {
 // Mostly new items repaint the settled ones in their order, each in its place. As settled items do not cover one
 // another, such new ones do not either, so that only the others are compared with all. One pass in list order is
 // enough: an erasure that goes can set free only later ones. Two places less than a pixel apart can share a pixel, so
-// they count as meeting; no scale is below 1, where a pixel is largest.
+// they count as meeting.
 void Painting::prune() const {
     struct Cover {
         std::size_t position;
@@ -110,7 +110,7 @@ void Painting::prune() const {
             return cover.position > i && cover.place.contains(item.place);
         };
         const auto& mayCover = repaints[i] ? others : covers;
-        const auto meetsItem = [&](const PaintItem& earlier) { return earlier.place.meets(item.place, twipsPerPixel); };
+        const auto meetsItem = [&](const PaintItem& earlier) { return earlier.place.meets(item.place, widestPixel); };
         const auto lastKept = items_.begin() + static_cast<std::ptrdiff_t>(kept);
         if (i < repainted || std::any_of(mayCover.begin(), mayCover.end(), coversItem) ||
             (item.erases(ground_) && std::none_of(items_.begin(), lastKept, meetsItem))) {
@@ -129,7 +129,7 @@ void Painting::prune() const {
 // none of the rest lies.
 Rect Painting::changedSince(const Painting& before) const {
     if (ground_ != before.ground_) {
-        return bounds_;
+        return bounds_.grown(fringe);
     }
     const auto& was = before.items();
     const auto& is = items();

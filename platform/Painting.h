@@ -93,14 +93,17 @@ struct PaintItem {
 };
 
 /// What shows on a drawing surface: a ground of one colour and the items that still show on it, oldest first. Painting
-/// the list gives the same pixels, at every scale from 1 up, as painting everything that was ever added.
+/// the list gives the same pixels, at every scale from the least up, as painting everything that was ever added.
 class Painting {
 public:
     /// An empty painting; `width` and `height` of the surface in twips.
     Painting(float width, float height, Colour ground);
 
-    /// Lays an item over the painting. An item with an empty place, or with one that lies wholly off the surface, adds
-    /// nothing.
+    /// A widget is a whole number of pixels wide and may reach over the surface's edge by up to so many twips.
+    static constexpr float fringe = 5 * widestPixel;
+
+    /// Lays an item over the painting. An item with an empty place, or with one that lies off the surface by more than
+    /// the fringe, adds nothing.
     void add(const PaintItem& item);
     void clear(Colour ground);
 
@@ -109,7 +112,7 @@ public:
     Colour ground() const { return ground_; }
     const std::vector<PaintItem>& items() const;
 
-    /// Where the painting may look other than `before`, in twips; empty when it does nowhere.
+    /// Where the painting may look other than `before`, in twips, the fringe included; empty when it does nowhere.
     Rect changedSince(const Painting& before) const;
 
 private:

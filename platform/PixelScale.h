@@ -3,6 +3,7 @@
 #include "platform/Geometry.h"
 
 #include <array>
+#include <vector>
 
 namespace tumble {
 
@@ -17,6 +18,8 @@ struct PixelRect {
     int height() const { return bottom - top + 1; }
     bool empty() const { return right < left || bottom < top; }
     PixelRect intersected(const PixelRect& other) const;
+    /// The smallest block that holds all of this one that `cover` leaves to see.
+    PixelRect without(const PixelRect& cover) const;
 
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
@@ -27,8 +30,8 @@ std::array<PixelRect, 4> boxSides(const PixelRect& box, int pen);
 /// How twips become device pixels and back: the one place where the two meet.
 class PixelScale {
 public:
-    /// Device pixels for each pixel of an unscaled screen (15 twips); values out of 1 to 16, or not a number, are
-    /// brought inside.
+    /// Device pixels for each pixel of an unscaled screen (15 twips); values out of `leastFactor` to 16 are brought
+    /// inside, what is not a number counts as 1.
     explicit PixelScale(double factor);
 
     double factor() const { return factor_; }
@@ -40,6 +43,9 @@ public:
     int pen() const;
     /// The pixels that a level or upright line covers inside `item`, its pen moved in where it would reach out.
     PixelRect stroke(Point from, Point to, const PixelRect& item) const;
+    /// The pixels that a slanting line covers inside `item`, a block for each row; the mirrored line covers the
+    /// mirrored pixels.
+    std::vector<PixelRect> slant(Point from, Point to, const PixelRect& item) const;
     /// The whole twip in which a pixel begins.
     float twips(double pixel) const;
 

@@ -10,7 +10,6 @@ namespace tumble {
 
 namespace {
 
-constexpr float tableMargin = 71; // twips at the right and the bottom that a drag does not reach
 constexpr Colour yellow = 0x00FFFF;
 constexpr Colour blue = 0xFF0000;
 
@@ -118,8 +117,7 @@ void CardTracker::moveCurCard(float X, float Y) {
         letGo();
         return;
     }
-    const bool insideLimits =
-        X >= 0 && X <= picture_->Width() - tableMargin && Y >= 0 && Y <= picture_->Height() - tableMargin;
+    const bool insideLimits = X >= 0 && X <= picture_->Width() - margin && Y >= 0 && Y <= picture_->Height() - margin;
     if (!insideLimits) {
         endCurCardMove();
         return;

@@ -12,6 +12,9 @@ namespace tumble {
 /// are in twips of the drawing surface.
 class CardTracker {
 public:
+    /// Twips at the right and the bottom of the table that a drag does not reach.
+    static constexpr float margin = 71;
+
     /// Where cards are drawn; not owned. Set before any card is added.
     void picture(DrawingSurface* pict) { picture_ = pict; }
     DrawingSurface* picture() const { return picture_; }

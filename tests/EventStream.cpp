@@ -47,7 +47,11 @@ public:
         game_ = kind % 4 != 0;
         table_.desktop.whileMessageIsOpen = [this] {
             check();
-            at_ += next() % 8; // what the player does meanwhile is held back
+            const std::size_t painted = log().size();
+            for (unsigned events = next() % 3; events > 0 && game_; --events) {
+                tableEvent();
+            }
+            require(log().size() == painted, "a box is open, and the table hears of the mouse");
         };
         table_.desktop.whileModal = [](Form& about) { about.Form_Close(); };
         if (game_) {
@@ -107,7 +111,11 @@ private:
     void press(unsigned which) {
         frmTumble& window = table_.program.table();
         const std::array buttons{&window.cmdHelp, &window.cmdAbout, &window.cmdExit};
-        which < buttons.size() ? buttons.at(which)->Click() : window.Form_Close();
+        if (which < buttons.size()) {
+            buttons.at(which)->Click();
+        } else if (window.picTable.takesInput()) {
+            window.Form_Close();
+        }
     }
 
     void tableEvent() {
@@ -125,7 +133,7 @@ private:
             table_.move(at);
         } else {
             table_.release(at);
-            if (armed) {
+            if (armed && table_.picture().takesInput()) {
                 checkDrop(painted);
             }
         }
@@ -194,7 +202,7 @@ private:
         const Painting& painting = table_.picture().painting();
         const std::size_t kept = painting.items().size();
         const bool onTable = std::all_of(painting.items().begin(), painting.items().end(), [&](const auto& item) {
-            return painting.bounds().meets(item.place, twipsPerPixel);
+            return painting.bounds().meets(item.place, Painting::fringe);
         });
         tracker().identifyCard(limits::quiet_NaN(), 0);
         tracker().endCurCardMove(); // of no card: a redraw of the list

@@ -49,20 +49,20 @@ TEST(PaintingTest, ListsWhatStillShows) {
         // An erasure shows only over what it erases in part.
         {{erasure({100, 100, 199, 299}), fill({150, 150, 250, 250}, red)}, "red 150,150"},
         {{{wide, {FillOperation{wide, tableGreen}, BoxOperation{wide, 0}}}}, "ground 90,90"},
-        {{lower, erasure({214, 100, 300, 299}), erasure({0, 100, 85, 299}), erasure({120, 0, 180, 85}),
-          erasure({120, 314, 180, 400})}, // each may share a pixel with the lower
-         "red 100,100; ground 214,100; ground 0,100; ground 120,0; ground 120,314"},
-        {{lower, erasure({215, 100, 300, 299}), erasure({0, 100, 84, 299}), erasure({120, 0, 180, 84}),
-          erasure({120, 315, 180, 400})},
+        {{lower, erasure({219, 100, 300, 299}), erasure({0, 100, 80, 299}), erasure({120, 0, 180, 80}),
+          erasure({120, 319, 180, 400})}, // each may share a pixel with the lower
+         "red 100,100; ground 219,100; ground 0,100; ground 120,0; ground 120,319"},
+        {{lower, erasure({220, 100, 300, 299}), erasure({0, 100, 79, 299}), erasure({120, 0, 180, 79}),
+          erasure({120, 320, 180, 400})},
          "red 100,100"},
         {{lower, erasure({190, 100, 300, 299}), erasure({295, 100, 400, 299}), far, erasure({100, 100, 199, 299})},
          "blue 500,0"},
         // What has no place on the surface is not there.
         {{fill({100, 100, 99, 200}, red), fill({100, 100, 200, 99}, red), fill({nan, 0, 9, 9}, red)}, ""},
         {{fill({100, 100, 100, 100}, red)}, "red 100,100"},
-        {{fill({-99, 0, -16, 9}, red), fill({3015, 0, 3099, 9}, red), fill({0, 2015, 9, 2099}, red)}, ""},
-        {{fill({-99, 0, -15, 9}, red), fill({3014, 0, 3099, 9}, red), fill({0, 2014, 9, 2099}, red)},
-         "red -99,0; red 3014,0; red 0,2014"}};
+        {{fill({-199, 0, -101, 9}, red), fill({3100, 0, 3199, 9}, red), fill({0, 2100, 9, 2199}, red)}, ""},
+        {{fill({-199, 0, -100, 9}, red), fill({3099, 0, 3199, 9}, red), fill({0, 2099, 9, 2199}, red)},
+         "red -199,0; red 3099,0; red 0,2099"}};
     for (const auto& [added, shown] : cases) {
         EXPECT_EQ(inWords(painted(added).items()), shown);
         for (const std::size_t readFirst : {0U, 1U}) { // read after every second item
@@ -98,7 +98,7 @@ TEST(PaintingTest, TellsWhereItChanged) {
     for (const auto& [before, after, changed] : cases) {
         EXPECT_EQ(painted(after).changedSince(painted(before)), changed) << inWords(before) << " to " << inWords(after);
     }
-    EXPECT_EQ(Painting(3000, 2000, red).changedSince(Painting(3000, 2000, blue)), (Rect{0, 0, 2999, 1999}));
+    EXPECT_EQ(Painting(3000, 2000, red).changedSince(Painting(3000, 2000, blue)), (Rect{-100, -100, 3099, 2099}));
 }
 
 TEST(DrawingSurfaceTest, ClearsToTheBackColorOfThatMoment) {
@@ -132,8 +132,9 @@ TEST(PixelScaleTest, PixelIsTheOneInWhichThePlaceLiesAndBeginsAtAWholeTwip) {
 }
 
 TEST(PixelScaleTest, FactorIsBroughtIntoReasonAndPenIsTheNearestWholeTiesDown) {
-    const std::vector<std::tuple<double, double, int>> cases{
-        {-2, 1, 1}, {0.9, 1, 1}, {nan, 1, 1}, {1, 1, 1}, {1.5, 1.5, 1}, {1.51, 1.51, 2}, {2.5, 2.5, 2}, {17, 16, 16}};
+    const std::vector<std::tuple<double, double, int>> cases{{-2, 0.75, 1}, {0.9, 0.9, 1}, {nan, 1, 1},
+                                                             {1, 1, 1},     {1.5, 1.5, 1}, {1.51, 1.51, 2},
+                                                             {2.5, 2.5, 2}, {17, 16, 16}};
     for (const auto& [given, factor, pen] : cases) {
         EXPECT_EQ(PixelScale(given).factor(), factor);
         EXPECT_EQ(PixelScale(given).pen(), pen) << given;
@@ -152,6 +153,24 @@ TEST(PixelScaleTest, StrokeStaysInsideItsItem) {
     }
 }
 
+TEST(PixelScaleTest, SlantingLinesAreWholeFromEndToEndAndMirrored) {
+    for (const double factor : {0.75, 1.0, 1.75, 2.5, 4.0}) {
+        const PixelScale scale(factor);
+        const PixelRect item = scale.pixels({0, 0, 1232, 1917});
+        const auto down = scale.slant({0, 0}, {1232, 1917}, item);
+        const auto up = scale.slant({0, 1917}, {1232, 0}, item);
+        ASSERT_EQ(down.size(), static_cast<std::size_t>(item.height()));
+        for (std::size_t row = 0; row < down.size(); ++row) {
+            EXPECT_EQ(down[row].left, item.right - up[row].right) << factor;
+            EXPECT_EQ(down[row].right, item.right - up[row].left) << factor;
+            EXPECT_TRUE(row == 0 || down[row].left <= down[row - 1].right + 1) << "a gap";
+        }
+        EXPECT_EQ(down.front().left, item.left);
+        EXPECT_EQ(down.back().right, item.right);
+    }
+    EXPECT_EQ(PixelScale(1).slant({30, 15}, {150, 20}, {0, 0, 20, 20}), std::vector({PixelRect{2, 1, 10, 1}}));
+}
+
 TEST(PixelRectTest, SidesOfABoxLieInsideIt) {
     EXPECT_EQ(boxSides({10, 20, 30, 40}, 3),
               (std::array<PixelRect, 4>{{{10, 20, 30, 22}, {10, 38, 30, 40}, {10, 20, 12, 40}, {28, 20, 30, 40}}}));
@@ -161,6 +180,8 @@ TEST(PixelRectTest, SidesOfABoxLieInsideIt) {
 }
 
 TEST(RectTest, ACoverLeavesTheRectangleThatHoldsTheRest) {
+    EXPECT_EQ((PixelRect{10, 20, 30, 40}.without({0, 20, 15, 40})), (PixelRect{16, 20, 30, 40}));
+    EXPECT_EQ((PixelRect{10, 20, 30, 40}.without({10, 35, 30, 40})), (PixelRect{10, 20, 30, 34}));
     const Rect place{10, 20, 30, 40};
     EXPECT_EQ(place.without({10, 20, 15, 40}), (Rect{15, 20, 30, 40}));
     EXPECT_EQ(place.without({25, 0, 30, 99}), (Rect{10, 20, 25, 40}));

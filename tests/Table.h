@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/MainMod.h"
+#include "platform/Hand.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "rules/PileAccepterTumble.h"
 
@@ -37,9 +38,9 @@ public:
     std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
                                       const std::shared_ptr<PileAccepter>& taker = nullptr) const;
 
-    void press(Point at, std::int16_t button = 1) { picture().MouseDown(button, 0, at.x, at.y); }
-    void move(Point to) { picture().MouseMove(0, 0, to.x, to.y); }
-    void release(Point at) { picture().MouseUp(1, 0, at.x, at.y); }
+    void press(Point at, std::int16_t button = 1) { hand.press(button, 0, at); }
+    void move(Point to) { hand.move(0, 0, to); }
+    void release(Point at) { hand.release(1, 0, at); }
     void drag(Point from, Point to);
 
     /// What was painted on the table since the last call.
@@ -51,6 +52,7 @@ public:
 
     MemoryDesktop desktop{application()};
     MainMod program;
+    Hand hand{picture()};
     /// The rules of a game that is not about to be won: at first, with a standard deck.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });

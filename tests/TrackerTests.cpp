@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <utility>
 
 namespace tumble {
@@ -123,6 +124,79 @@ TEST_F(DragTest, PressOnAPileTakesItsTopCard) {
     table.press({5000, 1000});
     table.drag({3100, 302}, {8100, 1200}); // an empty pile lets the card go that the mouse held
     EXPECT_EQ(table.cards(), "green 3000.5,101.5; SixHearts 5000,1000; FiveHearts 1000,1000; FourHearts 7000,1000");
+}
+
+TEST_F(DragTest, HandAndCardStayTogetherOnEveryWayOutOfTheTableAndBack) {
+    table.lay(rkFive, suHeart, 1000, 1000);
+    const std::vector<std::pair<std::vector<Point>, std::string>> ways{
+        {{{1100, 7000}, {9000, 9000}, {4100, 3100}}, "FiveHearts 4000,2999"}, // each way out parts them by a twip
+        {{{8990, 1100}, {8990, 5900}, {3100, 2100}}, "FiveHearts 2999,2000"},
+        {{{-500, -500}, {3100, 2100}}, "FiveHearts 3001,2001"},
+        {{{20000, 1100}, {-400, 1100}, {20000, 7000}, {1100, 1100}}, "FiveHearts 999,1000"}};
+    for (const auto& [way, shown] : ways) {
+        const auto crd = table.tracker().identifyCard(1100, 1100);
+        table.press({1100, 1100});
+        for (const Point at : way) {
+            table.move(at);
+        }
+        table.release(way.back());
+        EXPECT_EQ(table.cards(), shown);
+        crd->setPosition(1000, 1000, paNear, paNear);
+    }
+    table.press({1100, 1100});
+    table.painted();
+    table.move({5022, -300}); // over the upper edge at 4182
+    table.move({9000, 9000});
+    EXPECT_EQ(table.painted(), "ground 1000,1000; FiveHearts 4082,-100; FiveHearts 4082,-100; FiveHearts 4082,-100");
+}
+
+TEST_F(DragTest, RandomWaysLoseNoCard) {
+    std::mt19937 random(1);
+    const auto place = [&](unsigned size) {
+        return static_cast<float>(random() % (2 * size)) - static_cast<float>(size) / 2;
+    };
+    table.lay(rkFive, suHeart, 1000, 1000);
+    Point held{1300, 1500};
+    for (int drags = 0; drags < 1000; ++drags) {
+        ASSERT_NE(table.tracker().identifyCard(held.x, held.y), nullptr) << "lost after " << drags;
+        const auto& crd = *table.tracker().identifyCard(held.x, held.y);
+        const Point grab{held.x - static_cast<float>(crd.x1()), held.y - static_cast<float>(crd.y1())};
+        table.press(held);
+        for (auto moves = random() % 20; moves > 0; --moves) {
+            table.move({place(9015), place(6015)});
+        }
+        held = {static_cast<float>(random() % 8900), static_cast<float>(random() % 5900)};
+        table.release(held);
+        EXPECT_NEAR(held.x - static_cast<float>(crd.x1()), grab.x, 16);
+        EXPECT_NEAR(held.y - static_cast<float>(crd.y1()), grab.y, 16);
+        table.drag(held, {1300, 1500});
+        held = {1300, 1500};
+    }
+}
+
+TEST_F(DragTest, ButtonLetGoUnderABoxIsHeldUntilTheNextRelease) {
+    table.layPile(8000, 0, {}, table.accepter);
+    table.lay(rkFive, suHeart, 1000, 1000);
+    table.desktop.whileMessageIsOpen = [&] {
+        table.release({5000, 3000});
+        table.press({1100, 1100}, 2);
+        table.move({5000, 3000});
+        table.program.table().cmdHelp.Click();
+        table.program.table().cmdExit.Click();
+    };
+    table.press({1100, 1100});
+    table.move({8100, 100});
+    table.move({8100, -100});
+    EXPECT_EQ(table.messages(), "Invalid Move!: You must play the lowest ranking card, a Two");
+    EXPECT_FALSE(table.desktop.ended());
+    table.move({2100, 2100});
+    EXPECT_TRUE(table.tracker().moveInProg());
+    table.hand.letGo();
+    EXPECT_FALSE(table.tracker().moveInProg());
+    EXPECT_EQ(table.cards(), "green 8000,0; FiveHearts 2000,2001");
+    table.hand.retire();
+    table.press({2100, 2100});
+    EXPECT_FALSE(table.tracker().moveInProg());
 }
 
 // The card is dropped at (3000, 2000), so it reaches to (3728, 3133).

@@ -21,6 +21,7 @@ void MemoryDesktop::Show(Form& form, Modality modality) {
     note("show ", form);
     shown_.push_back(&form);
     if (modality == Modality::Modal && whileModal) {
+        const Modal modal(*this, &form);
         whileModal(form);
     }
 }
@@ -46,6 +47,7 @@ void MemoryDesktop::MousePointer(Form& /*form*/, Pointer pointer) {
 void MemoryDesktop::MsgBox(const std::string& text, const std::string& caption) {
     messages_.push_back({text, caption});
     if (whileMessageIsOpen) {
+        const Modal modal(*this);
         whileMessageIsOpen();
     }
 }

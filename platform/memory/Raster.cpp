@@ -79,16 +79,8 @@ void Raster::draw(const LineOperation& line, const PixelRect& place, const Pixel
         fill(scale_.stroke(line.from, line.to, place), clip, line.colour);
         return;
     }
-    const int pen = scale_.pen();
-    const int x1 = scale_.pixel(line.from.x);
-    const int y1 = scale_.pixel(line.from.y);
-    const int dx = scale_.pixel(line.to.x) - x1;
-    const int dy = scale_.pixel(line.to.y) - y1;
-    const int steps = std::max({std::abs(dx), std::abs(dy), 1});
-    for (int step = 0; step <= steps; ++step) {
-        const int x = x1 + dx * step / steps - pen / 2;
-        const int y = y1 + dy * step / steps - pen / 2;
-        fill({.left = x, .top = y, .right = x + pen - 1, .bottom = y + pen - 1}, clip, line.colour);
+    for (const PixelRect& block : scale_.slant(line.from, line.to, place)) {
+        fill(block, clip, line.colour);
     }
 }
 

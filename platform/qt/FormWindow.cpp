@@ -1,5 +1,6 @@
 #include "platform/qt/FormWindow.h"
 
+#include "platform/Desktop.h"
 #include "platform/PixelScale.h"
 #include "platform/qt/Buttons.h"
 #include "platform/qt/Captions.h"
@@ -55,7 +56,7 @@ constexpr int frameCaptionHeight = 16; // likewise
 } // namespace
 
 FormWindow::FormWindow(Form& form, double scale, const QIcon& icon, PictureCache& pictures)
-    : form_(form), icon_(icon), pictures_(pictures), scale_(scale) {
+    : form_(&form), icon_(icon), pictures_(pictures), scale_(scale) {
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
     setMinimumSize(logicalSize(form, 1));
@@ -84,16 +85,30 @@ void FormWindow::showPaintings() {
     }
 }
 
+void FormWindow::inputIsBack() {
+    for (const auto& [box, widget] : surfaces_) {
+        widget->inputIsBack();
+    }
+}
+
 void FormWindow::retire() {
-    retired_ = true;
+    form_ = nullptr;
+    for (const auto& [box, widget] : surfaces_) {
+        widget->retire();
+    }
+    surfaces_.clear();
+    updates_.clear();
+    for (const auto& [widget, room] : placed_) {
+        disconnect(widget, nullptr, this, nullptr);
+    }
     hide();
     deleteLater();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!retired_) {
-        form_.Form_Close();
+    if (form_ != nullptr && desktop().takesInput(*form_)) {
+        form_->Form_Close();
     }
 }
 
@@ -102,12 +117,6 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     QAbstractButton* button = enter ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
     if (button != nullptr) {
         button->click();
-    }
-}
-
-void FormWindow::raise(const Handler& handler) {
-    if (!retired_ && form_.MousePointer() != Pointer::Hourglass) {
-        handler();
     }
 }
 
@@ -125,8 +134,7 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
 }
 
 QWidget* FormWindow::build(PictureBox& box, QWidget* parent) {
-    auto* widget = new SurfaceWidget(
-        box, pictures_, [this](const Handler& handler) { raise(handler); }, parent);
+    auto* widget = new SurfaceWidget(box, pictures_, parent);
     widget->setAccessibleName(QString::fromStdString(box.Caption()));
     surfaces_.emplace(&box, widget);
     return widget;
@@ -160,7 +168,7 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
         widget->setFont(captionFont({}, button.Caption(), widget->size() - buttonMargin, Wrap::Lines));
         widget->setText(QString::fromStdString(button.Caption()));
     });
-    connect(widget, &QPushButton::clicked, this, [this, &button] { raise(button.Click); });
+    connect(widget, &QPushButton::clicked, this, [&button] { button.Click(); });
     return widget;
 }
 
@@ -175,7 +183,8 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     });
     connect(widget, &QRadioButton::toggled, this, [this, &option](bool selected) {
         if (selected) {
-            raise([&option] { option.Select(); });
+            option.Select();
+            changed(option); // which says if nothing came of it
         }
     });
     return widget;
@@ -205,7 +214,7 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
         widget->setValue(slider.Value());
     });
     connect(widget, &QSlider::valueChanged, this,
-            [this, &slider](int value) { raise([&slider, value] { slider.Value(value); }); });
+            [this, &slider](int value) { slider.takesInput() ? slider.Value(value) : changed(slider); });
     return widget;
 }
 
@@ -214,17 +223,19 @@ QFont FormWindow::captionFont(const Font& font, const std::string& caption, QSiz
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
-    layOut();
+    if (form_ != nullptr) {
+        layOut();
+    }
 }
 
 void FormWindow::layOut() {
     const auto perUnit = [](int pixels, float twips) {
         return pixels * static_cast<double>(twipsPerPixel) / static_cast<double>(twips);
     };
-    const double fits = std::min(perUnit(width(), form_.Width()), perUnit(height(), form_.Height()));
+    const double fits = std::min(perUnit(width(), form_->Width()), perUnit(height(), form_->Height()));
     scale_ = std::clamp(fits, 1.0, largestFactor / pixelRatio(*this));
     style_.scale(scale_);
-    const QSize margins = (size() - logicalSize(form_, scale_)) / 2;
+    const QSize margins = (size() - logicalSize(*form_, scale_)) / 2;
     const PixelScale pixels(scale_);
     for (const auto& [widget, room] : placed_) {
         const QPoint origin = widget->parent() == this ? QPoint(margins.width(), margins.height()) : QPoint();

@@ -35,6 +35,8 @@ public:
     SurfaceWidget* surface(const PictureBox& box) const;
     /// Brings what was painted to the screen at once.
     void showPaintings();
+    /// A message box or modal window over this one has closed.
+    void inputIsBack();
     /// From now on the form, which may be gone, hears no more; the window goes when its running handler has returned.
     void retire();
 
@@ -44,7 +46,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void raise(const Handler& handler);
     void buildControls(const Container& container, QWidget* parent);
     QWidget* build(PictureBox& box, QWidget* parent);
     QWidget* build(Label& label, QWidget* parent);
@@ -61,10 +62,9 @@ private:
         Place room; // in its container, twips
     };
 
-    Form& form_;
+    Form* form_; // null once retired
     QIcon icon_;
     PictureCache& pictures_;
-    bool retired_ = false;
     double scale_;
     ScaledStyle style_;
     std::vector<Placed> placed_;

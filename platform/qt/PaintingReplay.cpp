@@ -44,11 +44,9 @@ struct ItemPainter {
             paint(scale.stroke(line.from, line.to, shown.place), line.colour);
             return;
         }
-        painter.setClipRect(toQRect(shown.visible));
-        painter.setPen(QPen(toQColor(line.colour), scale.pen()));
-        painter.drawLine(scale.pixel(line.from.x), scale.pixel(line.from.y), scale.pixel(line.to.x),
-                         scale.pixel(line.to.y));
-        painter.setClipping(false);
+        for (const PixelRect& block : scale.slant(line.from, line.to, shown.place)) {
+            paint(block, line.colour);
+        }
     }
 
     void operator()(const CircleOperation& circle) const {
@@ -84,39 +82,37 @@ QColor toQColor(Colour colour) {
                            static_cast<int>((bits >> 16U) & 255U));
 }
 
+// A rectangle without pixels would reach to the left and up from its place.
 QRect toQRect(const PixelRect& pixels) {
-    return {QPoint(pixels.left, pixels.top), QPoint(pixels.right, pixels.bottom)};
+    return pixels.empty() ? QRect() : QRect(QPoint(pixels.left, pixels.top), QPoint(pixels.right, pixels.bottom));
 }
 
 // Looked through from the top, so that what later items hide is not painted at all: of a row of cards all but the last
 // show a narrow strip.
-void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale, const Rect& part,
+void replay(Colour ground, const std::vector<PaintItem>& items, PixelScale scale, const PixelRect& part,
             PictureCache& pictures, QImage& image) {
-    const PixelRect pixels =
-        scale.pixels(part).intersected({.left = 0, .top = 0, .right = image.width() - 1, .bottom = image.height() - 1});
-    const Rect around{.left = part.left - twipsPerPixel, // what lies nearer may share a pixel with the part
-                      .top = part.top - twipsPerPixel,
-                      .right = part.right + twipsPerPixel,
-                      .bottom = part.bottom + twipsPerPixel};
     std::vector<Shown> topDown;
-    std::vector<Rect> covers;
-    const auto visiblePixels = [&](Rect place) {
-        place = place.intersected(around);
-        for (auto cover = covers.begin(); cover != covers.end() && !place.empty(); ++cover) {
-            place = place.without(*cover);
+    std::vector<PixelRect> covers;
+    const auto visiblePart = [&](const PixelRect& place) {
+        PixelRect visible = place.intersected(part);
+        for (auto cover = covers.begin(); cover != covers.end() && !visible.empty(); ++cover) {
+            visible = visible.without(*cover);
         }
-        return scale.pixels(place).intersected(pixels);
+        return visible;
     };
     std::for_each(items.rbegin(), items.rend(), [&](const PaintItem& item) {
-        if (const PixelRect visible = visiblePixels(item.place); !visible.empty()) {
-            topDown.push_back({&item, scale.pixels(item.place), visible});
+        const PixelRect place = scale.pixels(item.place);
+        if (const PixelRect visible = visiblePart(place); !visible.empty()) {
+            topDown.push_back({&item, place, visible});
             if (item.opaque()) {
-                covers.push_back(item.place);
+                covers.push_back(place);
             }
         }
     });
     QPainter painter(&image);
-    painter.fillRect(toQRect(visiblePixels(around)), toQColor(ground));
+    if (const PixelRect bare = visiblePart(part); !bare.empty()) {
+        painter.fillRect(toQRect(bare), toQColor(ground));
+    }
     std::for_each(topDown.rbegin(), topDown.rend(), [&](const Shown& shown) {
         for (const Operation& operation : shown.item->operations) {
             std::visit(ItemPainter{painter, scale, shown, pictures}, operation);

@@ -94,7 +94,11 @@ void QtDesktop::Show(Form& form, Modality modality) {
     window->show();
     QEventLoop untilUnloaded;
     QObject::connect(window, &QObject::destroyed, &untilUnloaded, &QEventLoop::quit);
-    untilUnloaded.exec();
+    {
+        const Modal modal(*this, &form);
+        untilUnloaded.exec();
+    }
+    giveInputBack();
 }
 
 void QtDesktop::Hide(Form& form) {
@@ -141,7 +145,11 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
     fitToScale(box, parent != nullptr ? parent->scale() : 1);
-    box.exec();
+    {
+        const Modal modal(*this);
+        box.exec();
+    }
+    giveInputBack();
 }
 
 void QtDesktop::End() {
@@ -163,6 +171,12 @@ void QtDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
         if (form.MousePointer() == Pointer::Hourglass) {
             surface->showNow();
         }
+    }
+}
+
+void QtDesktop::giveInputBack() const {
+    for (const auto& [form, window] : windows_) {
+        window->inputIsBack();
     }
 }
 

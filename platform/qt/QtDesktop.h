@@ -45,6 +45,7 @@ private:
     FormWindow* windowOf(const Form& form) const;
     /// The window that the player looks at; null when none shows.
     FormWindow* windowInFront() const;
+    void giveInputBack() const;
     double openingScale() const;
 
     PictureCache pictures_;

@@ -4,7 +4,9 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
 
+#include <cmath>
 #include <utility>
 
 namespace tumble {
@@ -26,7 +28,7 @@ protected:
 
 constexpr int ringWidth = 3; // logical pixels, with a pixel of space inside
 
-int buttonCode(Qt::MouseButton button) {
+std::int16_t buttonCode(Qt::MouseButton button) {
     switch (button) {
     case Qt::LeftButton:
         return 1;
@@ -68,11 +70,10 @@ double pixelRatio(const QWidget& widget) {
     return ratio >= 1 ? ratio : 1;
 }
 
-SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise,
-                             QWidget* parent)
+SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
     : QWidget(parent),
-      box_(box),
-      raise_(std::move(raise)),
+      box_(&box),
+      hand_(box),
       pictures_(pictures),
       inImage_(box.painting()),
       focusRing_(new FocusRing(parent)) {
@@ -103,25 +104,40 @@ void SurfaceWidget::showNow() {
     }
 }
 
+void SurfaceWidget::retire() {
+    box_ = nullptr;
+    hand_.retire();
+}
+
+/// The device pixels that the widget covers, wherever its edges come to lie between them.
+QSize SurfaceWidget::pixelSize() const {
+    const QSizeF exact = QSizeF(size()) * pixelRatio(*this);
+    return {static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))};
+}
+
 /// Returns the part of the image that is another, in device pixels.
 QRect SurfaceWidget::bringImageUpToDate() {
+    outOfDate_ = false;
+    if (box_ == nullptr) {
+        return {};
+    }
     const PixelScale scale = pixelScale();
-    const Painting& painting = box_.painting();
-    Rect part = painting.changedSince(inImage_);
-    if (imageFactor_ != scale.factor()) {
-        if (imageFactor_ != 0) {
+    const Painting& painting = box_->painting();
+    const bool anew = imageFactor_ != scale.factor() || image_.size() != pixelSize();
+    if (anew) {
+        if (imageFactor_ != 0 && imageFactor_ != scale.factor()) {
             pictures_.clear();
         }
         imageFactor_ = scale.factor();
-        part = painting.bounds();
-        image_ = QImage(toQRect(scale.pixels(part)).size(), QImage::Format_RGB32);
+        image_ = QImage(pixelSize(), QImage::Format_RGB32);
     }
+    const PixelRect all{.left = 0, .top = 0, .right = image_.width() - 1, .bottom = image_.height() - 1};
+    const PixelRect part = anew ? all : scale.pixels(painting.changedSince(inImage_)).intersected(all);
     if (!part.empty()) {
         replay(painting.ground(), painting.items(), scale, part, pictures_, image_);
-        inImage_ = painting;
     }
-    outOfDate_ = false;
-    return toQRect(scale.pixels(part)) & image_.rect();
+    inImage_ = painting;
+    return toQRect(part);
 }
 
 // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
@@ -133,7 +149,7 @@ QRect SurfaceWidget::logicalRect(const QRect& pixels) const {
 
 // The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
-    if (imageFactor_ != pixelScale().factor()) {
+    if (imageFactor_ != pixelScale().factor() || image_.size() != pixelSize()) {
         bringImageUpToDate();
     }
     QPainter painter(this);
@@ -142,31 +158,74 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     painter.scale(1 / ratio, 1 / ratio);
     for (const QRect& part : event->region()) {
         const QRectF pixels(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
-        const QRect whole = pixels.toAlignedRect();
+        const QRect whole = pixels.toAlignedRect() & image_.rect();
         painter.drawImage(whole, image_, whole);
     }
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
-    report(box_.MouseDown, buttonCode(event->button()), *event);
+    hand_.press(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    report(box_.MouseMove, heldButtons(event->buttons()), *event);
+    hand_.move(heldButtons(event->buttons()), shiftKeys(event->modifiers()), place(*event));
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
-    report(box_.MouseUp, buttonCode(event->button()), *event);
+    hand_.release(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
 }
 
-void SurfaceWidget::report(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event) {
-    if (handler == nullptr) {
-        return;
+// From the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
+Point SurfaceWidget::place(const QMouseEvent& event) const {
+    const QPointF pixel = (event.scenePosition() - mapTo(window(), QPoint())) * pixelRatio(*this);
+    return {pixelScale().twips(pixel.x()), pixelScale().twips(pixel.y())};
+}
+
+// The toolkit forgets where a button went down when another window comes to block this one.
+void SurfaceWidget::inputIsBack() {
+    forgotten_ = hand_.holds();
+    if (forgotten_) {
+        window()->windowHandle()->installEventFilter(this);
     }
-    const QPointF pixel = event.position() * pixelRatio(*this);
-    const float X = pixelScale().twips(pixel.x());
-    const float Y = pixelScale().twips(pixel.y());
-    raise_([&] { handler(static_cast<std::int16_t>(button), shiftKeys(event.modifiers()), X, Y); });
+}
+
+// What the window hears of a held button that the toolkit has forgotten. Let go while the input was blocked, it is held
+// no longer.
+bool SurfaceWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
+    const auto type = event->type();
+    if (!forgotten_ ||
+        (type != QEvent::MouseMove && type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)) {
+        return false;
+    }
+    auto& mouse = static_cast<QMouseEvent&>(*event);
+    const Qt::MouseButtons before = type == QEvent::MouseButtonPress     ? mouse.buttons() ^ mouse.button()
+                                    : type == QEvent::MouseButtonRelease ? mouse.buttons() | mouse.button()
+                                                                         : mouse.buttons();
+    forgotten_ = before != Qt::NoButton;
+    if (!forgotten_) {
+        return false;
+    }
+    if (type == QEvent::MouseButtonPress) {
+        mousePressEvent(&mouse);
+    } else if (type == QEvent::MouseMove) {
+        mouseMoveEvent(&mouse);
+    } else {
+        forgotten_ = mouse.buttons() != Qt::NoButton;
+        mouseReleaseEvent(&mouse);
+    }
+    return true;
+}
+
+// A window that goes from the screen is not told when the button is let go.
+void SurfaceWidget::hideEvent(QHideEvent* /*event*/) {
+    hidden_ = hand_.holds();
+}
+
+void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
+    if (std::exchange(hidden_, false)) {
+        QMetaObject::invokeMethod(
+            this, [this] { hand_.letGo(); }, Qt::QueuedConnection);
+    }
 }
 
 void SurfaceWidget::focusInEvent(QFocusEvent* event) {

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "platform/Controls.h"
+#include "platform/Hand.h"
 #include "platform/qt/PaintingReplay.h"
 
 #include <QImage>
 #include <QRect>
 #include <QWidget>
-
-#include <functional>
 
 namespace tumble {
 
@@ -20,8 +18,7 @@ void announceSurfaces();
 /// Shows a picture box's painting, in the exact pixels of the screen, and reports the mouse to it.
 class SurfaceWidget : public QWidget {
 public:
-    /// `raise` runs a handler of the box when the form takes input.
-    SurfaceWidget(PictureBox& box, PictureCache& pictures, std::function<void(const Handler&)> raise, QWidget* parent);
+    SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent);
 
     /// Logical pixels for each 15 twips; the painting shows at the new scale after the event.
     void scale(double scale);
@@ -29,6 +26,14 @@ public:
     /// The painting has changed; it reaches the screen after the event, or with `showNow`.
     void changed();
     void showNow();
+
+    /// A message box or modal window over this one has closed, and may have come up while a button was held.
+    void inputIsBack();
+
+    /// The box may be gone from now on; what shows stays.
+    void retire();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,22 +43,27 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     PixelScale pixelScale() const { return PixelScale(scale_ * pixelRatio(*this)); }
+    QSize pixelSize() const;
     QRect bringImageUpToDate();
     QRect logicalRect(const QRect& pixels) const;
     void placeFocusRing();
-    void report(const PictureBox::MouseEvent& handler, int button, const QMouseEvent& event);
+    Point place(const QMouseEvent& event) const;
 
-    PictureBox& box_;
-    std::function<void(const Handler&)> raise_;
+    PictureBox* box_; // null once retired
+    Hand hand_;
     PictureCache& pictures_;
     double scale_ = 1;
     double imageFactor_ = 0; // at which the image was painted
     QImage image_;           // in device pixels
     Painting inImage_;       // what the image shows
     bool outOfDate_ = false;
+    bool forgotten_ = false; // by the toolkit, that a button went down here and is held
+    bool hidden_ = false;    // while a button was held
     QWidget* focusRing_;
 };
 

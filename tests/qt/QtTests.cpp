@@ -2,13 +2,11 @@
 
 #include "cards/CardImages.h"
 #include "platform/qt/PaintingReplay.h"
-#include "table/CardTracker.h"
 
 #include <QImage>
 #include <QLabel>
 
 #include <array>
-#include <random>
 #include <tuple>
 
 namespace tumble {
@@ -195,56 +193,6 @@ TEST_F(Windows, TheFocusShows) {
         const QImage without = picture(dialog);
         widget->setFocus(Qt::TabFocusReason);
         EXPECT_NE(picture(dialog), without) << name;
-    }
-}
-
-/// A surface that keeps everything that was ever painted on it.
-class LoggingSurface : public DrawingSurface {
-public:
-    LoggingSurface() : DrawingSurface(9015, 6015, tableGreen) {}
-    std::vector<PaintItem> log;
-
-protected:
-    void painted(const PaintItem& item) override { log.push_back(item); }
-};
-
-TEST(PaintingReplayTest, TheListShowsWhatTheLogShows) {
-    constexpr int cards = 12;
-    for (const double factor : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
-        LoggingSurface surface;
-        CardTracker tracker;
-        tracker.picture(&surface);
-        const PixelScale scale(factor);
-        const Rect all = surface.painting().bounds();
-        const QSize size = toQRect(scale.pixels(all)).size();
-        PictureCache pictures({});
-        QImage stepwise(size, QImage::Format_RGB32);
-        stepwise.fill(toQColor(tableGreen));
-        Painting shown = surface.painting();
-        std::mt19937 random(static_cast<unsigned>(factor * 100));
-        const auto place = [&](unsigned limit) { return static_cast<float>(random() % limit); };
-        for (int i = 0; i < cards; ++i) {
-            const auto rank = static_cast<CardRank>(rkTwo + i);
-            tracker.addCard(rank, suHeart, place(7800), place(4000), static_cast<CardSize>(i % 3), fdFaceUp, bsFirst);
-        }
-        for (int drags = 0; drags < 170; ++drags) {
-            tracker.identifyCard(place(9000), place(6000));
-            tracker.startCurCardMove(place(9000), place(6000));
-            tracker.moveCurCard(place(9000), place(6000));
-            if (drags % 3 == 0) {
-                tracker.endCurCardMove();
-            }
-            ASSERT_LE(surface.painting().items().size(), 2U * cards + 8U);
-            const Rect part = surface.painting().changedSince(shown);
-            replay(tableGreen, surface.painting().items(), scale, part, pictures, stepwise);
-            shown = surface.painting();
-        }
-        QImage list(size, QImage::Format_RGB32);
-        QImage log(size, QImage::Format_RGB32);
-        replay(tableGreen, surface.painting().items(), scale, all, pictures, list);
-        replay(tableGreen, surface.log, scale, all, pictures, log);
-        EXPECT_EQ(list, log) << "at " << factor;
-        EXPECT_EQ(stepwise, log) << "at " << factor;
     }
 }
 

@@ -10,12 +10,25 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace tumble {
+
+/// The real desktop, with a list of everything that is painted.
+class LoggingDesktop : public QtDesktop {
+public:
+    LoggingDesktop() : QtDesktop(application()) {}
+    void painted(PictureBox& box, const PaintItem& item) override {
+        log.push_back(item);
+        QtDesktop::painted(box, item);
+    }
+    std::vector<PaintItem> log;
+};
 
 /// The game on the real desktop, driven through its windows.
 class Windows : public testing::Test {
 protected:
-    QtDesktop desktop{application()};
+    LoggingDesktop desktop;
     MainMod mainMod;
 
     /// The visible window with the title, or null.

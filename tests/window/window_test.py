@@ -136,7 +136,7 @@ class WindowTest(unittest.TestCase):
         game.key("Return")
         game.in_front("Tumble")
         game.mouse(BELOW)
-        wait("the card under the mouse", lambda: game.look((BELOW[0], BELOW[1] + 435)) == card)
+        wait("the card under the mouse", lambda: game.look(BELOW) == card)
         game.mouse("click 1", CORNERS[3])
         game.wait_for_label("Pile (empty)")
         self.leave(game)
