@@ -1,12 +1,9 @@
 #include "platform/Random.h"
 
-#include <chrono>
-
 namespace tumble {
 
 void ClockRandom::Randomize() {
-    const auto now = std::chrono::system_clock::now().time_since_epoch().count();
-    engine_.seed(static_cast<std::mt19937::result_type>(now));
+    engine_.seed(static_cast<std::mt19937::result_type>(clock_().time_since_epoch().count()));
 }
 
 // 24 bits are what single precision holds exactly, so that 1 is never reached by rounding.

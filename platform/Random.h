@@ -1,6 +1,9 @@
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <random>
+#include <utility>
 
 namespace tumble {
 
@@ -23,10 +26,15 @@ public:
 /// The generator of the real desktop.
 class ClockRandom : public Random {
 public:
+    using Clock = std::function<std::chrono::system_clock::time_point()>;
+
+    explicit ClockRandom(Clock clock = std::chrono::system_clock::now) : clock_(std::move(clock)) {}
+
     void Randomize() override;
     float Rnd() override;
 
 private:
+    Clock clock_;
     std::mt19937 engine_;
 };
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <sstream>
 #include <tuple>
 #include <utility>
@@ -233,15 +234,19 @@ TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
         table.messages().starts_with("Tumble Instructions: Drag each of the cards to one of the corner piles."));
 }
 
-TEST(ClockRandomTest, ValuesFillTheRangeFromZeroToBelowOne) {
+TEST(ClockRandomTest, ValuesFillTheRangeFromZeroToBelowOneAndAreOthersAtEachTick) {
     ClockRandom random;
     std::vector<float> values(2000);
     std::generate(values.begin(), values.end(), [&] { return random.Rnd(); });
     const auto [least, most] = std::minmax_element(values.begin(), values.end());
     EXPECT_TRUE(*least >= 0 && *least < 0.01F && *most > 0.99F && *most < 1);
-    ClockRandom seeded;
-    seeded.Randomize();
-    EXPECT_NE(seeded.Rnd(), values.front());
+    std::chrono::system_clock::time_point now;
+    const auto firstOfARun = [&now] {
+        ClockRandom seeded([&now] { return ++now; });
+        seeded.Randomize();
+        return seeded.Rnd();
+    };
+    EXPECT_NE(firstOfARun(), firstOfARun());
 }
 
 } // namespace
