@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
+#include <map>
 #include <sstream>
 #include <tuple>
 #include <utility>
@@ -15,12 +17,17 @@
 namespace tumble {
 namespace {
 
-/// Notes which controls it was told to show anew.
+/// Notes which controls it was told to show anew, and tells of each painting.
 class WatchfulDesktop : public MemoryDesktop {
 public:
     WatchfulDesktop() : MemoryDesktop(application()) { keepLog(); }
     void changed(Control& control) override { changes += control.Name() + " "; }
+    void painted(PictureBox& box, const PaintItem& item) override {
+        MemoryDesktop::painted(box, item);
+        whenPainted(item);
+    }
     std::string changes;
+    std::function<void(const PaintItem&)> whenPainted = [](const PaintItem&) {};
 };
 
 class OptionsTest : public testing::Test {
@@ -96,21 +103,34 @@ TEST_F(OptionsTest, PreviewsStandInTheMiddleOfTheirBoxesAndFollowEachChoice) {
     slider.Min(5);
     EXPECT_EQ(inWords(desktop.log(options.pctBackDesign)),
               "CardBack1 51,8.5; CardBack4 51,8.5; CardBack1 51,8.5; CardBack3 51,8.5; CardBack2 51,8.5;  51,8.5");
+    EXPECT_EQ(options.pctBackDesign.painting().items().size(), 1U); // each covers the one before it
     EXPECT_EQ(desktop.changes.size(), 8 * std::string("sldBackDesign ").size());
     EXPECT_EQ(slider.Min() + 10 * slider.Max() + 100 * slider.Value(), 565);
 }
 
-/// A form's size and its controls by their tab positions, each with its place; those of a frame follow it.
-std::string placesOn(const Container& container) {
+/// A form's size and its controls by their tab positions, each with all that it was designed with; those of a frame
+/// follow it.
+std::string designOf(const Container& container) {
     std::ostringstream text;
     if (const auto* form = dynamic_cast<const Form*>(&container)) {
         text << form->Width() << "," << form->Height() << "; ";
     }
     const auto describe = [&](const auto* control) {
         const auto& [left, top, width, height] = control->place();
-        text << control->TabIndex() << ":" << left << "," << top << "," << width << "," << height << "; ";
+        text << control->TabIndex() << ":" << left << "," << top << "," << width << "," << height << " '"
+             << control->Caption() << "'";
+        if constexpr (requires { control->font; }) {
+            text << " " << control->font.points << (control->font.bold ? " bold" : "");
+        } else if constexpr (requires { control->keys; }) {
+            text << (control->pressedByEnter() ? " Enter" : "") << (control->pressedByEsc() ? " Esc" : "")
+                 << (control->face == ButtonFace::IconAboveCaption ? " icon" : "");
+        }
+        if constexpr (requires { control->align; }) {
+            text << (control->align == TextAlign::Centre ? " centred" : "");
+        }
+        text << "; ";
         if constexpr (requires { control->controls(); }) {
-            text << placesOn(*control);
+            text << designOf(*control);
         }
     };
     for (const AnyControl& any : container.controls()) {
@@ -119,25 +139,36 @@ std::string placesOn(const Container& container) {
     return text.str();
 }
 
-TEST(FormTest, ControlsLieWhereTheyWereDesigned) {
+TEST(FormTest, ControlsAreAsTheyWereDesigned) {
     MemoryDesktop desktop(application());
     MainMod program;
-    EXPECT_EQ(placesOn(program.table()),
-              "9525,6630; 0:240,120,9015,6015; 4:240,6240,1215,375; 5:1560,6240,2775,255; 3:7200,6240,615,375; "
-              "2:7920,6240,615,375; 1:8640,6240,615,375; ");
-    EXPECT_EQ(placesOn(frmAbout()),
-              "4530,1890; 1:240,240,540,540; 2:1050,240,1245,480; 3:1050,780,1365,225; 4:1080,1200,1455,435; "
-              "0:3120,1440,1260,345; ");
+    EXPECT_EQ(designOf(program.table()),
+              "9525,6630; 0:240,120,9015,6015 'Table'; 4:240,6240,1215,375 'Current Card:' 8.25 bold; "
+              "5:1560,6240,2775,255 '' 8.25; 3:7200,6240,615,375 '&About'; 2:7920,6240,615,375 '&Help'; "
+              "1:8640,6240,615,375 'E&xit' Enter; ");
+    frmAbout about;
+    about.Show();
+    EXPECT_EQ(designOf(about),
+              "4530,1890; 1:240,240,540,540 'Icon'; 2:1050,240,1245,480 'Tumble' 13.5 bold; "
+              "3:1050,780,1365,225 'Version " TUMBLE_VERSION "' 8.25; 4:1080,1200,1455,435 '\u00A9 2026 Tumble' 8.25; "
+              "0:3120,1440,1260,345 'OK' Enter Esc; ");
     EXPECT_EQ(
-        placesOn(program.options()),
-        "8595,5220; 0:6360,4200,2055,855; 1:6360,3720,2055,375; 2:120,120,2895,2415; 3:240,240,855,375; "
-        "4:240,600,1095,375; 5:240,960,975,495; 30:1320,240,1335,1935; 6:3240,120,2895,2415; 7:360,360,630,1935; "
-        "31:1320,240,1335,1935; 8:6360,120,2055,3495; 9:240,240,1335,375; 10:240,720,1575,375; 11:240,1200,1575,375; "
-        "12:240,1680,1695,495; 13:240,2280,1575,495; 14:240,2880,1695,375; 15:120,2760,1695,1095; "
-        "16:240,240,1335,375; 17:240,600,1335,375; 18:120,3960,1695,1095; 19:240,240,1095,375; 20:240,600,1215,255; "
-        "21:2040,2760,4095,2295; 22:240,240,1575,255; 23:240,480,1935,255; 24:240,720,1815,255; 25:240,960,1815,255; "
-        "26:240,1200,1455,255; 27:240,1440,1455,255; 28:240,1680,1215,255; 29:240,1920,1455,255; "
-        "32:2280,720,1575,1095; ");
+        designOf(program.options()),
+        "8595,5220; 0:6360,4200,2055,855 '&Play' Enter icon; 1:6360,3720,2055,375 'E&xit' Esc; "
+        "2:120,120,2895,2415 'Card Size' 8.25 bold; 3:240,240,855,375 'Small'; 4:240,600,1095,375 'Medium'; "
+        "5:240,960,975,495 'Normal'; 30:1320,240,1335,1935 'Card size preview'; "
+        "6:3240,120,2895,2415 'Back Design' 8.25 bold; 7:360,360,630,1935 'Back design'; "
+        "31:1320,240,1335,1935 'Back design preview'; 8:6360,120,2055,3495 'Card Order' 8.25 bold; "
+        "9:240,240,1335,375 'Natural'; 10:240,720,1575,375 'Shuffled'; "
+        "11:240,1200,1575,375 'By rank then suit, ascending'; 12:240,1680,1695,495 'By rank then suit, descending'; "
+        "13:240,2280,1575,495 'By suit then rank, ascending'; 14:240,2880,1695,375 'By suit then rank, descending'; "
+        "15:120,2760,1695,1095 'Face Direction' 8.25 bold; 16:240,240,1335,375 'Face Up'; "
+        "17:240,600,1335,375 'Face Down'; 18:120,3960,1695,1095 'Card Layout' 8.25 bold; 19:240,240,1095,375 'Spread'; "
+        "20:240,600,1215,255 'In Pile'; 21:2040,2760,4095,2295 'Deck Type' 8.25 bold; 22:240,240,1575,255 'Standard'; "
+        "23:240,480,1935,255 'Standard with Jokers'; 24:240,720,1815,255 '36-card deck'; "
+        "25:240,960,1815,255 '32-card deck'; 26:240,1200,1455,255 '24-card deck'; 27:240,1440,1455,255 'Double'; "
+        "28:240,1680,1215,255 'Pinochle'; 29:240,1920,1455,255 'Big Pinochle'; "
+        "32:2280,720,1575,1095 '' 8.25 bold centred; ");
 }
 
 TEST(FormTest, ExitAndClosingTheWindowEndTheApplication) {
@@ -159,25 +190,32 @@ TEST(FormTest, AboutBoxNamesTheApplicationUntilOkIsPressed) {
     MemoryDesktop desktop(
         {.Title = "Patience", .Major = 3, .Minor = 20, .Revision = 1, .Icon = icon, .Width = 0, .Height = 0});
     MainMod program;
+    std::string named;
     desktop.whileModal = [&](Form& form) {
         auto& about = dynamic_cast<frmAbout&>(form);
-        EXPECT_EQ(about.Caption() + about.lblTitle.Caption() + about.lblVersion.Caption(),
-                  "About PatiencePatienceVersion 3.20.1");
+        named = about.Caption() + about.lblTitle.Caption() + about.lblVersion.Caption();
         EXPECT_EQ(inFull(about.picIcon.painting().items().at(0)), "icon 30,30 509,509");
         about.cmdOK.Click();
         EXPECT_FALSE(desktop.shows(about));
     };
     program.table().cmdAbout.Click();
+    EXPECT_EQ(named, "About PatiencePatienceVersion 3.20.1");
     desktop.whileModal = nullptr;
     program.table().cmdAbout.Click(); // left open, it is unloaded as it goes
     EXPECT_EQ(desktop.journal().size(), 4U);
 }
 
-TEST(MainModTest, MainShowsTheOptionsAndPlayOpensTheTable) {
-    MemoryDesktop desktop(application());
+TEST(MainModTest, PlayOpensTheTableAndDealsCardByCardUnderTheHourglass) {
+    WatchfulDesktop desktop;
     MainMod program;
     program.Main();
+    std::map<std::string, int> paintings; // by what was done last, and whether what is painted lies on the table
+    desktop.whenPainted = [&](const PaintItem& item) {
+        const auto crd = program.tableTracker->identifyCard(item.place.right, item.place.bottom);
+        ++paintings[desktop.journal().back() + (crd == nullptr ? "" : ", " + crd->getStr())];
+    };
     program.options().cmdPlay.Click();
+    EXPECT_EQ(paintings, (std::map<std::string, int>{{"refresh Tumble", 52}, {"refresh Tumble, Pile (empty)", 4}}));
     EXPECT_EQ(desktop.journal(),
               (std::vector<std::string>{"show Tumble Options", "hide Tumble Options", "unload Tumble Options",
                                         "show Tumble", "pointer 11", "refresh Tumble", "pointer 0"}));
@@ -192,46 +230,38 @@ TEST(MainModTest, LaysThePackOutOrInTheMiddleAndThePilesOverIt) {
     for (const auto& pile : {program.pileTopRight, program.pileBottomLeft, program.pileBottomRight}) {
         EXPECT_EQ(pile->accepter(), program.pileTopLeft->accepter());
     }
+    table.drag({1310, 1010}, {1242, 1927}); // the lowest card comes to touch the pile with its corner
+    EXPECT_EQ(program.pileTopLeft->numCards(), 1);
+    table.painted();
     for (const int layout : {-1, 1}) {
-        program.startGame(csMedium, bsFirst, fdFaceUp, dt24Card, soSuitRankDesc, static_cast<LayoutStyle>(layout));
-        EXPECT_EQ(table.painted(), "NineDiamonds 4057.5,2307.5; edge of 24 4057.5,2307.5; green 0,0; green 8045,0; "
+        program.startGame(csMedium, bsFirst, fdFaceUp, dtDouble, soSuitRankDesc, static_cast<LayoutStyle>(layout));
+        EXPECT_EQ(table.painted(), "TwoDiamonds 4057.5,2307.5; edge of 104 4057.5,2307.5; green 0,0; green 8045,0; "
                                    "green 0,4545; green 8045,4545");
         EXPECT_EQ(table.tracker().identifyCard(4500, 3000)->pack()->accepter(), nullptr);
     }
-}
-
-TEST(MainModTest, InvalidSettingsAreReportedAndTheGameGoesOn) {
-    Table table;
-    table.program.startGame(static_cast<CardSize>(3), bsFirst, fdFaceUp, static_cast<DeckType>(9),
-                            static_cast<SortOrder>(6), lsSpread);
-    const std::string size = "; Tumble: Invalid card size!"; // once for each corner
-    EXPECT_EQ(table.messages(), "Tumble: Invalid Deck Type!; Tumble: Invalid Deck Type!; "
-                                "Tumble: Invalid pack sorting order!" +
-                                    size + size + size + size);
 }
 
 TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
     Table table;
     table.lay(rkFive, suHeart, 100, 100);
     table.layPile(3000, 100, {makeCard(rkSix, suSpade)});
-    const std::vector<std::pair<Point, std::string>> cases{
-        {{110, 110}, "Five of Hearts"}, {{5000, 5000}, "None"}, {{3010, 110}, "Pile (Six of Spades)"}};
-    for (const auto& [at, name] : cases) {
-        table.move(at);
-        EXPECT_EQ(table.label(), name);
-        table.move({8000, 5000});
-        table.press(at, 4);
-        EXPECT_EQ(table.label(), name);
-    }
-    table.drag({110, 110}, {3010, 4510});
+    table.press({3010, 110}, 4);
+    EXPECT_EQ(table.label(), "Pile (Six of Spades)");
+    table.drag({110, 110}, {3010, 110});
     EXPECT_EQ(table.label(), "Five of Hearts"); // until the mouse moves again
+    table.drag({3010, 110}, {3010, 4510});
+    EXPECT_EQ(table.label(), "Pile (Five of Hearts)");
     table.painted();
     table.press({3010, 4510}, 2); // flips the card and drags nothing
     table.release({200, 200});
-    EXPECT_EQ(table.painted(), "CardBack1 3000,4500");
+    table.press({3010, 110}, 2); // a pile shows as before
+    EXPECT_EQ(table.painted(), "CardBack1 3000,4500; SixSpades 3000,100; edge of 1 3000,100; CardBack1 3000,4500");
     table.program.table().cmdHelp.Click();
-    EXPECT_TRUE(
-        table.messages().starts_with("Tumble Instructions: Drag each of the cards to one of the corner piles."));
+    EXPECT_EQ(table.messages(),
+              "Tumble Instructions: Drag each of the cards to one of the corner piles. Each pile must\r\n"
+              "contain a different suit, and the cards must be built up from\r\n"
+              "lowest card (Two) to highest card (Ace).  Right-click on a card to\r\n"
+              "flip it (you cannot flip piles).");
 }
 
 TEST(ClockRandomTest, ValuesFillTheRangeFromZeroToBelowOneAndAreOthersAtEachTick) {
