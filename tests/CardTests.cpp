@@ -41,11 +41,14 @@ TEST(CardTest, RoundsItsEdgesOnceAndHalvesToEven) {
         {csSmall, {1e30F, -1e30F}, paNear, {most, least, most, least}},
         {csSmall, {nan, 7}, paNear, {0, 7, 0, 1140}},
     };
+    MemoryDesktop desktop(application());
     for (const auto& [size, at, align, expected] : cases) {
         Card crd;
         crd.setAttributes(nullptr, size, fdFaceUp, vsCard, bsFirst);
+        crd.setAttributes(nullptr, static_cast<CardSize>(3), fdFaceUp, vsCard, bsFirst); // no size: it keeps its own
         crd.setPosition(at.x, at.y, align, align);
         EXPECT_EQ((Edges{crd.x1(), crd.y1(), crd.x2(), crd.y2()}), expected);
+        EXPECT_EQ(desktop.takeMessages(), (std::vector<MemoryDesktop::Message>{{"Invalid card size!", "Tumble"}}));
     }
 }
 
@@ -99,6 +102,10 @@ TEST(CardTest, NothingIsPaintedWithoutAKindAPackOrASurface) {
     cards[3].setAttributes(&table.picture(), csSmall, fdFaceUp, vsCard, bsFirst);
     cards[3].draw(); // of no face: the picture without a key, which shows as missing
     EXPECT_EQ(table.painted(), " 0,0");
+    cards[3].setAsJoker();
+    cards[3].setRankAndSuit(rkAce, suClub); // no joker any more
+    cards[3].draw();
+    EXPECT_EQ(table.painted() + ": " + cards[3].getStr(), "AceClubs 0,0: Ace of Clubs");
 }
 
 } // namespace

@@ -52,8 +52,6 @@ TEST_F(CardTrackerTest, CurrentCardIsBroughtToTheTopFlippedAndRemoved) {
     tracker.bringCurCardToTop(); // of none
     tracker.flipCurCard();
     tracker.removeCurCard();
-    tracker.startCurCardMove(500, 0);
-    EXPECT_FALSE(tracker.moveInProg());
     EXPECT_EQ(table.painted(), "");
 }
 
@@ -85,6 +83,7 @@ TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
         table.painted();
         tracker.moveCurCard(to.x, to.y);
         EXPECT_EQ(table.painted(), "FiveHearts 1000.5,1000.5; FiveHearts 1000.5,1000.5") << to.x << "," << to.y;
+        EXPECT_FALSE(tracker.moveInProg());
     }
     for (const Point to : {Point{0, 0}, {8944, 5944}}) {
         table.press({1010, 1020});
@@ -93,6 +92,10 @@ TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
         EXPECT_EQ(table.cards(), to.x == 0 ? "FiveHearts -10,-20" : "FiveHearts 8934,5924");
         table.drag({to.x, to.y}, {1010, 1020});
     }
+    table.press({1010, 1020});
+    table.move({-1, 1020}); // dropped, and held on to
+    table.release({9, 1020});
+    EXPECT_EQ(table.cards(), "FiveHearts 1010,1000");
 }
 
 TEST_F(DragTest, PileShowsTheCardAtOnceThatItTakesAndLiesUnderTheOneItRefuses) {
@@ -121,8 +124,6 @@ TEST_F(DragTest, PressOnAPileTakesItsTopCard) {
     table.release({1100, 1200});
     table.drag({3100, 302}, {3100, 302}); // a click puts it back
     table.drag({3100, 302}, {7100, 1200});
-    table.press({5000, 1000});
-    table.drag({3100, 302}, {8100, 1200}); // an empty pile lets the card go that the mouse held
     EXPECT_EQ(table.cards(), "green 3000.5,101.5; SixHearts 5000,1000; FiveHearts 1000,1000; FourHearts 7000,1000");
 }
 
@@ -197,6 +198,27 @@ TEST_F(DragTest, ButtonLetGoUnderABoxIsHeldUntilTheNextRelease) {
     table.hand.retire();
     table.press({2100, 2100});
     EXPECT_FALSE(table.tracker().moveInProg());
+}
+
+TEST_F(DragTest, PressMeanwhileLeavesADragAsItIsAndReleaseOfAnyButtonEndsIt) {
+    const auto pile = table.layPile(3000, 0, {makeJoker()});
+    table.layPile(6000, 0);
+    table.lay(rkSix, suHeart, 5000, 2000);
+    const std::vector<std::pair<Point, std::int16_t>> presses{{{0, 0}, 1},    {{0, 0}, 4},    {{6000, 0}, 1},
+                                                              {{6000, 0}, 4}, {{3000, 0}, 4}, {{5000, 2000}, 4}};
+    for (const bool armed : {false, true}) {
+        for (const auto& [at, button] : presses) {
+            if (armed) {
+                table.picture().MouseDown(1, 7, 5000, 2000); // with Shift, Ctrl and Alt held
+            }
+            table.press(at, button);
+            EXPECT_EQ(tracker.moveInProg(), armed);
+            table.move(at);
+            EXPECT_TRUE(tracker.moveInProg() == armed && pile->numCards() == 1);
+            table.picture().MouseUp(2, 0, at.x, at.y);
+            EXPECT_FALSE(tracker.moveInProg());
+        }
+    }
 }
 
 // The card is dropped at (3000, 2000), so it reaches to (3728, 3133).
