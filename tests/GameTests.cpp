@@ -146,6 +146,7 @@ TEST(FormTest, ControlsAreAsTheyWereDesigned) {
               "9525,6630; 0:240,120,9015,6015 'Table'; 4:240,6240,1215,375 'Current Card:' 8.25 bold; "
               "5:1560,6240,2775,255 '' 8.25; 3:7200,6240,615,375 '&About'; 2:7920,6240,615,375 '&Help'; "
               "1:8640,6240,615,375 'E&xit' Enter; ");
+    EXPECT_TRUE(application().Width == program.table().Width() && application().Height == program.table().Height());
     frmAbout about;
     about.Show();
     EXPECT_EQ(designOf(about),
