@@ -54,7 +54,7 @@ PixelRect PixelScale::pixels(const Rect& rect) const {
 }
 
 int PixelScale::pen() const {
-    return static_cast<int>(std::ceil(factor_ - 0.5));
+    return std::max(1, static_cast<int>(std::ceil(factor_ - 0.5)));
 }
 
 PixelRect PixelScale::stroke(Point from, Point to, const PixelRect& item) const {
