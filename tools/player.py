@@ -90,10 +90,10 @@ def stop(process):
 
 
 class Screen:
-    """A screen with a window manager, a session bus and an accessibility bus of its own, while the `with` lasts. A
-    process can read the accessibility bus of its first screen only."""
+    """A screen with a window manager, a session bus and an accessibility bus of its own, while the `with` lasts. On one
+    of this size the game opens at scale 1. A process can read the accessibility bus of its first screen only."""
 
-    def __init__(self, width=1024, height=768, **settings):
+    def __init__(self, width=800, height=600, **settings):
         with contextlib.ExitStack() as started:
             self.home = started.enter_context(tempfile.TemporaryDirectory())
             bus = f"unix:path={self.home}/bus"

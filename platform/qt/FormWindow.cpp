@@ -1,7 +1,6 @@
 #include "platform/qt/FormWindow.h"
 
 #include "platform/Desktop.h"
-#include "platform/PixelScale.h"
 #include "platform/qt/Buttons.h"
 #include "platform/qt/Captions.h"
 #include "platform/qt/SurfaceWidget.h"
@@ -9,9 +8,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QScreen>
 #include <QSlider>
-#include <QStyle>
+#include <QWindow>
+#include <QtMath>
 
 #include <algorithm>
 #include <variant>
@@ -20,11 +19,15 @@ namespace tumble {
 
 namespace {
 
-constexpr double largestFactor = 16; // device pixels for each 15 twips
+constexpr Qt::WindowStates wholeScreen = Qt::WindowMaximized | Qt::WindowFullScreen;
 
-QSize logicalSize(const Form& form, double scale) {
-    const double pixels = scale / static_cast<double>(twipsPerPixel);
-    return {qRound(static_cast<double>(form.Width()) * pixels), qRound(static_cast<double>(form.Height()) * pixels)};
+QSizeF unscaledSize(float width, float height) {
+    return QSizeF(static_cast<double>(width), static_cast<double>(height)) / static_cast<double>(twipsPerPixel);
+}
+
+QSizeF largestForm() {
+    const Application& App = desktop().App();
+    return unscaledSize(App.Width, App.Height);
 }
 
 // The place that a control's widget gets. An option button shows no border: its caption may use half of the space to
@@ -55,18 +58,59 @@ constexpr int frameCaptionHeight = 16; // likewise
 
 } // namespace
 
-FormWindow::FormWindow(Form& form, double scale, const QIcon& icon, PictureCache& pictures)
-    : form_(&form), icon_(icon), pictures_(pictures), scale_(scale) {
+FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon,
+                       PictureCache& pictures)
+    : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
+      form_(&form),
+      icon_(icon),
+      pictures_(pictures),
+      formSize_(unscaledSize(form.Width(), form.Height())),
+      scale_(before.scale),
+      frame_(before.frame) {
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
-    setMinimumSize(logicalSize(form, 1));
-    resize(logicalSize(form, scale));
+    if (before.screen != nullptr) {
+        setScreen(before.screen);
+    }
+    if (modality == Modality::Modal) {
+        setWindowModality(Qt::ApplicationModal);
+    }
+    followScreen(screen());
+    resize(openingSize());
+    move(room().corner(size(), room().inside()));
+    create();
+    if (modality == Modality::Modeless) {
+        setWindowState(before.state);
+    }
+    windowHandle()->installEventFilter(this);
+    connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
     buildControls(form, this);
     setTabOrderByIndex();
     layOut();
-    const QRect available = screen()->availableGeometry();
-    const QRect middle = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size(), available);
-    move(std::max(middle.x(), available.x()), std::max(middle.y(), available.y()));
+}
+
+WindowPlace FormWindow::place() const {
+    return {screen(), frame_, windowState() & wholeScreen, scale_};
+}
+
+ScreenRoom FormWindow::room() const {
+    return {*screen(), frame_};
+}
+
+void FormWindow::followScreen(QScreen* screen) {
+    if (screen != nullptr) {
+        connect(screen, &QScreen::availableGeometryChanged, this, &FormWindow::keepLeastSize, Qt::UniqueConnection);
+        keepLeastSize();
+    }
+}
+
+void FormWindow::keepLeastSize() {
+    setMinimumSize(sizeAt(room().leastScale(largestForm())));
+}
+
+QSize FormWindow::openingSize() const {
+    const double scale = isModal() ? scale_ : room().openingScale(largestForm());
+    return sizeAt(std::min(scale, room().largestScale(formSize_)));
 }
 
 void FormWindow::changed(const Control& control) {
@@ -112,7 +156,26 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
+// The frame comes with the window: the first one opens for a usual frame, and is set right as soon as it shows.
+bool FormWindow::eventFilter(QObject* /*window*/, QEvent* event) {
+    if (event->type() == QEvent::Expose && !frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
+        const bool asOpened = size() == openingSize();
+        frame_ = windowHandle()->frameMargins();
+        keepLeastSize();
+        if (asOpened) {
+            const QSize content = openingSize();
+            setGeometry(
+                QRect(room().corner(content, room().inside()) + QPoint(frame_->left(), frame_->top()), content));
+        }
+    }
+    return false;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F11 && !isModal()) {
+        setWindowState(windowState() ^ Qt::WindowFullScreen);
+        return;
+    }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     QAbstractButton* button = enter ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
     if (button != nullptr) {
@@ -229,18 +292,16 @@ void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void FormWindow::layOut() {
-    const auto perUnit = [](int pixels, float twips) {
-        return pixels * static_cast<double>(twipsPerPixel) / static_cast<double>(twips);
-    };
-    const double fits = std::min(perUnit(width(), form_->Width()), perUnit(height(), form_->Height()));
-    scale_ = std::clamp(fits, 1.0, largestFactor / pixelRatio(*this));
+    scale_ = showable(std::min(width() / formSize_.width(), height() / formSize_.height()), pixelRatio(*this));
     style_.scale(scale_);
-    const QSize margins = (size() - logicalSize(*form_, scale_)) / 2;
-    const PixelScale pixels(scale_);
+    const QSize margins = (size() - sizeAt(scale_)) / 2;
+    const auto pixel = [this](float twips) {
+        return qFloor(static_cast<double>(twips) * scale_ / static_cast<double>(twipsPerPixel));
+    };
     for (const auto& [widget, room] : placed_) {
         const QPoint origin = widget->parent() == this ? QPoint(margins.width(), margins.height()) : QPoint();
-        const QPoint first(pixels.pixel(room.Left), pixels.pixel(room.Top));
-        const QPoint end(pixels.pixel(room.Left + room.Width), pixels.pixel(room.Top + room.Height));
+        const QPoint first(pixel(room.Left), pixel(room.Top));
+        const QPoint end(pixel(room.Left + room.Width), pixel(room.Top + room.Height));
         widget->setGeometry(QRect(origin + first, origin + end - QPoint(1, 1)));
     }
     for (const auto& [control, update] : updates_) {

@@ -4,12 +4,17 @@
 #include "platform/qt/Captions.h"
 #include "platform/qt/PictureCache.h"
 #include "platform/qt/ScaledStyle.h"
+#include "platform/qt/ScreenRoom.h"
 
 #include <QIcon>
+#include <QMargins>
+#include <QPointer>
+#include <QScreen>
 #include <QWidget>
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,15 +24,32 @@ namespace tumble {
 
 class SurfaceWidget;
 
+/// What a modal window has of a frame.
+inline constexpr Qt::WindowFlags dialogFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+/// Where and how a window stands; the next one opens likewise.
+struct WindowPlace {
+    QPointer<QScreen> screen;        // null: the first one
+    std::optional<QMargins> frame{}; // once the windowing system has made one
+    Qt::WindowStates state{};        // maximised, full screen
+    double scale = 1;                // logical pixels for each 15 twips
+};
+
 /// Shows a form as a window of its own and reports to the form's controls what the player does. The content keeps the
-/// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1.
+/// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1, or as large
+/// as its screen can hold.
 class FormWindow : public QWidget {
 public:
-    /// `scale`: logical pixels for each 15 twips, when it opens.
-    FormWindow(Form& form, double scale, const QIcon& icon, PictureCache& pictures);
+    /// `before`: the window in front until now. A modal window opens at its scale, another at the one that suits the
+    /// program's largest form, in its state.
+    FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon, PictureCache& pictures);
 
     /// The scale that the window's size gives.
     double scale() const { return scale_; }
+    WindowPlace place() const;
+    /// What its screen has for it and for others with a frame like its own.
+    ScreenRoom room() const;
 
     /// Shows a control's new state.
     void changed(const Control& control);
@@ -42,6 +64,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* window, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -54,6 +77,10 @@ private:
     QWidget* build(Frame& frame, QWidget* parent);
     QWidget* build(Slider& slider, QWidget* parent);
     void setTabOrderByIndex();
+    void followScreen(QScreen* screen);
+    void keepLeastSize();
+    QSize openingSize() const;
+    QSize sizeAt(double scale) const { return (formSize_ * scale).toSize(); }
     void layOut();
     QFont captionFont(const Font& font, const std::string& caption, QSize room, Wrap wrap) const;
 
@@ -65,7 +92,9 @@ private:
     Form* form_; // null once retired
     QIcon icon_;
     PictureCache& pictures_;
+    QSizeF formSize_; // logical pixels at scale 1
     double scale_;
+    std::optional<QMargins> frame_;
     ScaledStyle style_;
     std::vector<Placed> placed_;
     QAbstractButton* enterButton_ = nullptr;

@@ -13,7 +13,7 @@ bool HeldKeys::eventFilter(QObject* object, QEvent* event) {
     }
     const auto& keyEvent = static_cast<const QKeyEvent&>(*event);
     const int key = keyEvent.key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape) {
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape && key != Qt::Key_F11) {
         return false;
     }
     if (!press) {

@@ -6,8 +6,8 @@
 
 namespace tumble {
 
-/// Keeps a held Enter or Esc from pressing a button more than once: what the keyboard repeats goes nowhere, also when
-/// another window has come up meanwhile. An event filter of the application.
+/// Keeps a held Enter, Esc or F11 from acting more than once: what the keyboard repeats goes nowhere, also when another
+/// window has come up meanwhile. An event filter of the application.
 class HeldKeys : public QObject {
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -1,16 +1,15 @@
 #include "platform/qt/QtDesktop.h"
 
-#include "platform/qt/FormWindow.h"
 #include "platform/qt/SurfaceWidget.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -22,18 +21,21 @@ namespace tumble {
 namespace {
 
 constexpr std::array iconSizes{16, 24, 32, 48, 64, 128};
-constexpr std::array openingScales{4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25}; // the largest first, or else 1
-constexpr double shareOfScreen = 0.7;
 constexpr int longestWaitForScreen = 1000; // milliseconds
-constexpr Qt::WindowFlags dialogFlags =
-    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+/// The widest content of a message box: on a large screen the toolkit makes none as wide as the screen.
+int widestBox(int room) {
+    constexpr int smallScreen = 1024;
+    constexpr int leftFree = 480;
+    constexpr int widest = 980;
+    return room <= smallScreen ? room : std::clamp(room - leftFree, smallScreen / 2, widest);
+}
 
 /// Makes a message box as large as the window that it belongs to shows its form, if the lines of its text still fit the
-/// widest box that the toolkit makes; and wide enough for its caption between the window manager's buttons.
-void fitToScale(QMessageBox& box, double windowScale) {
+/// widest box; and wide enough for its caption between the window manager's buttons.
+void fitToScale(QMessageBox& box, double windowScale, int widest) {
     constexpr int windowButtons = 120; // logical pixels, as all here
     constexpr int margins = 60;
-    constexpr int widest = 980;
     constexpr QSize buttonSize(80, 26);
     const int lines = box.fontMetrics().size(0, box.text()).width() + margins;
     const double scale = std::min(windowScale, static_cast<double>(widest) / lines);
@@ -53,6 +55,31 @@ void fitToScale(QMessageBox& box, double windowScale) {
     }
 }
 
+/// In the middle of the window that it belongs to: the toolkit reckons with frames of its own fancy.
+class MessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        if (const auto* parent = dynamic_cast<const FormWindow*>(parentWidget())) {
+            move(parent->room().corner(size(), parent->geometry()));
+        }
+    }
+};
+
+/// Returns when a window that it filters the events of shows.
+class UntilExposed : public QEventLoop {
+protected:
+    bool eventFilter(QObject* /*window*/, QEvent* event) override {
+        if (event->type() == QEvent::Expose) {
+            quit();
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
@@ -67,8 +94,8 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
 }
 
 QtDesktop::~QtDesktop() {
-    for (const auto& [form, window] : windows_) {
-        delete window;
+    for (const Shown& shown : windows_) {
+        delete shown.window;
     }
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     desktop(nullptr);
@@ -81,16 +108,20 @@ void QtDesktop::run() const {
 }
 
 void QtDesktop::Show(Form& form, Modality modality) {
-    QPointer<FormWindow>& window = windows_[&form];
+    const FormWindow* front = windowInFront();
+    FormWindow* window = windowOf(form);
     if (window == nullptr) {
-        window = new FormWindow(form, openingScale(), icon_, pictures_);
+        window = new FormWindow(form, modality, front != nullptr ? front->place() : lastPlace_, icon_, pictures_);
     }
+    std::erase_if(windows_, [&](const Shown& shown) { return shown.form == &form; });
+    windows_.push_back({&form, window});
     if (modality == Modality::Modeless) {
         window->show();
         return;
     }
-    window->setWindowFlags(dialogFlags);
-    window->setWindowModality(Qt::ApplicationModal);
+    if (front != nullptr) {
+        window->windowHandle()->setTransientParent(front->windowHandle());
+    }
     window->show();
     QEventLoop untilUnloaded;
     QObject::connect(window, &QObject::destroyed, &untilUnloaded, &QEventLoop::quit);
@@ -103,27 +134,30 @@ void QtDesktop::Show(Form& form, Modality modality) {
 
 void QtDesktop::Hide(Form& form) {
     if (FormWindow* window = windowOf(form)) {
+        lastPlace_ = window->place();
         window->hide();
     }
 }
 
 void QtDesktop::Unload(Form& form) {
     if (FormWindow* window = windowOf(form)) {
+        lastPlace_ = window->place();
         window->retire();
     }
-    windows_.erase(&form);
+    std::erase_if(windows_, [&](const Shown& shown) { return shown.form == &form; });
 }
 
 // A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
 void QtDesktop::Refresh(Form& form) {
     FormWindow* window = windowOf(form);
-    if (window == nullptr) {
+    if (window == nullptr || !window->isVisible()) {
         return;
     }
-    QDeadlineTimer deadline(longestWaitForScreen);
-    while (!window->windowHandle()->isExposed() && !deadline.hasExpired()) {
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents,
-                                    static_cast<int>(deadline.remainingTime()));
+    if (!window->windowHandle()->isExposed()) {
+        UntilExposed untilExposed;
+        window->windowHandle()->installEventFilter(&untilExposed);
+        QTimer::singleShot(longestWaitForScreen, &untilExposed, &QEventLoop::quit);
+        untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
     }
     window->repaint();
 }
@@ -135,16 +169,17 @@ void QtDesktop::MousePointer(Form& form, Pointer pointer) {
 }
 
 void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
-    for (const auto& [form, window] : windows_) {
-        window->showPaintings();
+    for (const Shown& shown : windows_) {
+        shown.window->showPaintings();
     }
     FormWindow* parent = windowInFront();
-    QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption),
-                    QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok, parent);
+    MessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption),
+                   QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    fitToScale(box, parent != nullptr ? parent->scale() : 1);
+    const WindowPlace place = parent != nullptr ? parent->place() : lastPlace_;
+    fitToScale(box, place.scale, widestBox(ScreenRoom(*box.screen(), place.frame).inside().width()));
     {
         const Modal modal(*this);
         box.exec();
@@ -181,30 +216,15 @@ void QtDesktop::giveInputBack() const {
 }
 
 FormWindow* QtDesktop::windowInFront() const {
-    FormWindow* visible = nullptr;
-    for (const auto& [form, window] : windows_) {
-        if (window->isActiveWindow()) {
-            return window;
-        }
-        visible = window->isVisible() ? window.data() : visible;
-    }
-    return visible;
-}
-
-double QtDesktop::openingScale() const {
-    const QSizeF room = QSizeF(QGuiApplication::primaryScreen()->size()) * shareOfScreen;
-    const auto fits = [&](double scale) {
-        const double pixels = scale / static_cast<double>(twipsPerPixel);
-        return static_cast<double>(App().Width) * pixels <= room.width() &&
-               static_cast<double>(App().Height) * pixels <= room.height();
-    };
-    const auto* const largest = std::find_if(openingScales.begin(), openingScales.end(), fits);
-    return largest != openingScales.end() ? *largest : 1;
+    const auto front =
+        std::find_if(windows_.rbegin(), windows_.rend(), [](const Shown& shown) { return shown.window->isVisible(); });
+    return front != windows_.rend() ? front->window.data() : nullptr;
 }
 
 FormWindow* QtDesktop::windowOf(const Form& form) const {
-    const auto window = windows_.find(&form);
-    return window != windows_.end() ? window->second.data() : nullptr;
+    const auto place =
+        std::find_if(windows_.begin(), windows_.end(), [&](const Shown& shown) { return shown.form == &form; });
+    return place != windows_.end() ? place->window.data() : nullptr;
 }
 
 } // namespace tumble

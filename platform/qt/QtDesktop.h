@@ -2,18 +2,17 @@
 
 #include "platform/Desktop.h"
 #include "platform/Random.h"
+#include "platform/qt/FormWindow.h"
 #include "platform/qt/HeldKeys.h"
 #include "platform/qt/PictureCache.h"
 
 #include <QIcon>
 #include <QPointer>
 
-#include <map>
 #include <string>
+#include <vector>
 
 namespace tumble {
-
-class FormWindow;
 
 /// The real desktop, on Qt Widgets. Needs a QApplication that outlives it.
 class QtDesktop : public Desktop {
@@ -42,16 +41,21 @@ public:
     ClockRandom& random() override { return random_; }
 
 private:
+    struct Shown {
+        const Form* form;
+        QPointer<FormWindow> window;
+    };
+
     FormWindow* windowOf(const Form& form) const;
-    /// The window that the player looks at; null when none shows.
+    /// The one shown last of those that still show; null when none does.
     FormWindow* windowInFront() const;
     void giveInputBack() const;
-    double openingScale() const;
 
     PictureCache pictures_;
     QIcon icon_;
     HeldKeys heldKeys_;
-    std::map<const Form*, QPointer<FormWindow>> windows_;
+    std::vector<Shown> windows_; // in the order of their showing
+    WindowPlace lastPlace_;
     ClockRandom random_;
     bool ended_ = false;
 };

@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QTemporaryFile>
 
 #include <array>
 #include <tuple>
@@ -232,6 +233,11 @@ void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QStr
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    QTemporaryFile screens;
+    screens.open();
+    screens.write(tumble::screensFile());
+    screens.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
     QApplication application(argc, argv);
     qInstallMessageHandler(tumble::onMessage);
     return RUN_ALL_TESTS();

@@ -24,6 +24,8 @@ public:
     }
     std::vector<PaintItem> log;
 };
+/// The file that tells the offscreen platform of the tests' screens.
+QByteArray screensFile();
 
 /// The game on the real desktop, driven through its windows.
 class Windows : public testing::Test {

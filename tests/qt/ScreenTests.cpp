@@ -1,0 +1,173 @@
+#include "Windows.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+namespace tumble {
+
+namespace {
+
+struct TestScreen {
+    int width; // logical pixels
+    int height;
+    double ratio;
+    double scale; // at which the table opens there
+};
+
+// Side by side. The first, where the other tests play, grows with QT_SCALE_FACTOR.
+constexpr std::array testScreens{
+    TestScreen{800, 600, 1, 1},
+    TestScreen{800, 480, 1, 1},
+    TestScreen{1366, 768, 1, 1.375},
+    TestScreen{1280, 800, 1, 1.375},
+    TestScreen{1920, 1080, 1, 1.875},
+    TestScreen{3840, 2160, 1, 3.875},
+    TestScreen{1920, 1080, 2, 1.875},
+    TestScreen{683, 384, 2, 380 / 442.0},
+    TestScreen{640, 400, 2, 396 / 442.0},
+    TestScreen{640, 360, 3, 356 / 442.0},
+    TestScreen{600, 1024, 1, 596 / 635.0},
+    TestScreen{400, 300, 1, 0.75},
+};
+
+} // namespace
+
+QByteArray screensFile() {
+    QJsonArray screens;
+    int left = 0;
+    double factor = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+    for (const auto& [width, height, ratio, scale] : testScreens) {
+        screens.append(QJsonObject{{"name", QString::number(screens.size())},
+                                   {"x", left},
+                                   {"y", 0},
+                                   {"width", width * factor},
+                                   {"height", height * factor},
+                                   {"dpr", ratio},
+                                   {"logicalDpi", 96},
+                                   {"logicalBaseDpi", 96}});
+        left += qRound(width * factor);
+        factor = 1;
+    }
+    return QJsonDocument(QJsonObject{{"screens", screens}}).toJson();
+}
+
+namespace {
+
+/// Does what opens a modal window, looks at it, and closes it by a key.
+void inModal(const std::function<void()>& open, Qt::Key key, const std::function<void(QWidget*)>& look) {
+    bool looked = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        ASSERT_TRUE(modal != nullptr && QTest::qWaitForWindowActive(modal));
+        looked = true;
+        look(modal);
+        QTest::keyClick(modal, key);
+    });
+    open();
+    EXPECT_TRUE(looked);
+}
+
+/// The window lies with its frame inside the screen, in the middle of a place, and bears the game's icon.
+void expectInMiddle(const QWidget* window, const QRect& place) {
+    EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
+    EXPECT_LE((window->frameGeometry().center() - place.center()).manhattanLength(), 2);
+    EXPECT_FALSE(window->windowIcon().isNull());
+}
+
+class Screens : public Windows {
+protected:
+    static QScreen* screenAt(int number) {
+        const auto screens = QGuiApplication::screens();
+        return *std::find_if(screens.begin(), screens.end(),
+                             [&](const QScreen* screen) { return screen->name() == QString::number(number); });
+    }
+
+    /// The dialog, as if the player had moved it to the screen.
+    QWidget* openDialogOn(QScreen* screen) {
+        QWidget* dialog = openDialog();
+        expectInMiddle(dialog, QGuiApplication::primaryScreen()->geometry());
+        dialog->move(screen->geometry().topLeft());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dialog->screen(), screen);
+        return dialog;
+    }
+
+    QWidget* play(QWidget* dialog) {
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QWidget* table = window("Tumble");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(table));
+        return table;
+    }
+};
+
+class EachScreen : public Screens, public testing::WithParamInterface<int> {};
+
+TEST_P(EachScreen, HoldsWhatOpensThere) {
+    QScreen* screen = screenAt(GetParam());
+    const double scale = testScreens.at(static_cast<std::size_t>(GetParam())).scale;
+    const QWidget* table = play(openDialogOn(screen));
+    EXPECT_EQ(table->screen(), screen);
+    EXPECT_NEAR(scaleOf(table), scale, 0.002);
+    EXPECT_NEAR(table->minimumWidth(), 635 * std::min(scale, 1.0), 1);
+    if (scale > 0.75) {
+        expectInMiddle(table, screen->geometry());
+    }
+    inModal([] { frmTumble::cmdAbout_Click(); }, Qt::Key_Escape,
+            [&](const QWidget* about) {
+                EXPECT_EQ(about->windowTitle(), "About Tumble");
+                EXPECT_EQ(about->windowHandle()->transientParent(), table->windowHandle());
+                EXPECT_NEAR(scaleOf(about), scale, 0.01);
+                expectInMiddle(about, screen->geometry());
+            });
+    inModal([] { frmTumble::cmdHelp_Click(); }, Qt::Key_Return,
+            [&](const QWidget* help) {
+                const auto* box = qobject_cast<const QMessageBox*>(help);
+                EXPECT_EQ(box->windowHandle()->transientParent(), table->windowHandle());
+                EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
+                EXPECT_EQ(box->buttons().size(), 1);
+                if (scale > 0.75) {
+                    expectInMiddle(box, table->frameGeometry());
+                }
+            });
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, EachScreen, testing::Range(0, static_cast<int>(testScreens.size())));
+
+TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
+    QScreen* screen = screenAt(2);
+    const auto f11 = [](QWidget* window) {
+        QTest::keyClick(window, Qt::Key_F11);
+        QCoreApplication::processEvents();
+    };
+    QWidget* dialog = openDialogOn(screen);
+    dialog->showMaximized();
+    QCoreApplication::processEvents();
+    QWidget* table = play(dialog);
+    EXPECT_EQ(table->windowState(), Qt::WindowMaximized);
+    EXPECT_EQ(table->frameGeometry(), screen->geometry());
+    f11(table);
+    EXPECT_TRUE(table->isFullScreen());
+    EXPECT_EQ(table->geometry(), screen->geometry());
+    inModal([] { frmTumble::cmdAbout_Click(); }, Qt::Key_Return,
+            [&](QWidget* about) {
+                f11(about);
+                EXPECT_EQ(about->windowState(), Qt::WindowNoState);
+                EXPECT_NEAR(scaleOf(about), scaleOf(table), 0.01);
+                expectInMiddle(about, screen->geometry());
+            });
+    f11(table);
+    EXPECT_EQ(table->windowState(), Qt::WindowMaximized);
+}
+
+} // namespace
+
+} // namespace tumble
