@@ -72,11 +72,11 @@ public:
     OptionButton optCardSmall{fraCardSize, "optCardSmall", "Small", {240, 240, 855, 375}, 3, [this] { optCardSmall_Click(); }};
     OptionButton optCardMedium{fraCardSize, "optCardMedium", "Medium", {240, 600, 1095, 375}, 4, [this] { optCardMedium_Click(); }};
     OptionButton optCardNormal{fraCardSize, "optCardNormal", "Normal", {240, 960, 975, 495}, 5, [this] { optCardNormal_Click(); }, "", Choice::Selected};
-    PictureBox pctCardSize{fraCardSize, "pctCardSize", "Card size preview", {1320, 240, 1335, 1935}, 30, tableGreen};
+    PictureBox pctCardSize{fraCardSize, "pctCardSize", "Card size preview", {1320, 240, 1335, 1935}, 30, windowColour};
 
     Frame fraBackDesign{*this, "fraBackDesign", "Back Design", {3240, 120, 2895, 2415}, 6, {.bold = true}};
     Slider sldBackDesign{fraBackDesign, "sldBackDesign", "Back design", {360, 360, 630, 1935}, 7, bsFirst, bsLast, [this] { sldBackDesign_Change(); }};
-    PictureBox pctBackDesign{fraBackDesign, "pctBackDesign", "Back design preview", {1320, 240, 1335, 1935}, 31, tableGreen};
+    PictureBox pctBackDesign{fraBackDesign, "pctBackDesign", "Back design preview", {1320, 240, 1335, 1935}, 31, windowColour};
 
     Frame fraCardOrder{*this, "fraCardOrder", "Card Order", {6360, 120, 2055, 3495}, 8, {.bold = true}};
     OptionButton optNaturalOrder{fraCardOrder, "optNaturalOrder", "Natural", {240, 240, 1335, 375}, 9, [this] { optNaturalOrder_Click(); }, "", Choice::Selected};

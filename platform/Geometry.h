@@ -8,6 +8,9 @@ namespace tumble {
 /// 24 bits, 0xBBGGRR: red in the low byte.
 using Colour = std::int32_t;
 
+/// The colour of the window around a picture box, whatever the player's theme; the desktop knows it when it paints.
+inline constexpr Colour windowColour = -1;
+
 /// How many twips one pixel of an unscaled screen is wide and high.
 inline constexpr float twipsPerPixel = 15;
 /// How many device pixels stand for each pixel of an unscaled screen, at the least; and so the widest pixel, in twips.

@@ -90,7 +90,7 @@ TEST_F(OptionsTest, PreviewsStandInTheMiddleOfTheirBoxesAndFollowEachChoice) {
     options.optCardSmall.Select();
     options.optCardSmall.Select();
     EXPECT_EQ(inWords(desktop.log(options.pctCardSize)),
-              "AceSpades 51,8.5; ground 0,0; AceSpades 217.5,267; ground 0,0; AceSpades 303,400.5");
+              "AceSpades 51,8.5; window 0,0; AceSpades 217.5,267; window 0,0; AceSpades 303,400.5");
     EXPECT_EQ(inWords(options.pctCardSize.painting().items()), "AceSpades 303,400.5");
 
     desktop.changes.clear();

@@ -12,9 +12,15 @@ namespace tumble {
 namespace {
 
 std::string colourName(Colour colour) {
-    static const std::map<Colour, std::string> names{
-        {0, "black"},         {0x0000FF, "red"},      {0x00FF00, "green"},      {0xFF0000, "blue"},
-        {0x00FFFF, "yellow"}, {0x666666, "darkGrey"}, {0x333333, "darkerGrey"}, {tableGreen, "ground"}};
+    static const std::map<Colour, std::string> names{{0, "black"},
+                                                     {0x0000FF, "red"},
+                                                     {0x00FF00, "green"},
+                                                     {0xFF0000, "blue"},
+                                                     {0x00FFFF, "yellow"},
+                                                     {0x666666, "darkGrey"},
+                                                     {0x333333, "darkerGrey"},
+                                                     {tableGreen, "ground"},
+                                                     {windowColour, "window"}};
     return names.at(colour);
 }
 

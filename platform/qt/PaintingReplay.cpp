@@ -1,6 +1,8 @@
 #include "platform/qt/PaintingReplay.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPalette>
 
 #include <algorithm>
 #include <variant>
@@ -77,6 +79,9 @@ private:
 } // namespace
 
 QColor toQColor(Colour colour) {
+    if (colour == windowColour) {
+        return QGuiApplication::palette().color(QPalette::Window);
+    }
     const auto bits = static_cast<std::uint32_t>(colour);
     return QColor::fromRgb(static_cast<int>(bits & 255U), static_cast<int>((bits >> 8U) & 255U),
                            static_cast<int>((bits >> 16U) & 255U));

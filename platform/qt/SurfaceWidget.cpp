@@ -228,6 +228,13 @@ void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
     }
 }
 
+void SurfaceWidget::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        imageFactor_ = 0; // what has the window's colour is painted again
+        update();
+    }
+}
+
 void SurfaceWidget::focusInEvent(QFocusEvent* event) {
     const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     placeFocusRing();

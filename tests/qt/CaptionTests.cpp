@@ -121,6 +121,20 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
     QApplication::setPalette(light);
 }
 
+TEST_F(Windows, ThePreviewsLieOnTheWindowItselfInAnyPalette) {
+    const QPalette light = QApplication::palette();
+    openDialog();
+    for (const QPalette& palette : {light, darkPalette()}) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        for (const char* preview : {"pctCardSize", "pctBackDesign"}) {
+            const QImage shown = control("Tumble Options", preview)->grab().toImage();
+            EXPECT_EQ(shown.pixelColor(0, 0), palette.color(QPalette::Window)) << preview;
+        }
+    }
+    QApplication::setPalette(light);
+}
+
 } // namespace
 
 } // namespace tumble
