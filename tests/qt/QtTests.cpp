@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <array>
 #include <tuple>
 
@@ -100,14 +101,25 @@ TEST_F(Windows, WhatShowsIsWhatWasPainted) {
         return picture(surface).pixel(scale.pixel(X), scale.pixel(Y)) | 0xFF000000U;
     };
     EXPECT_EQ(colourAt(600, 100), green) << "an empty pile";
-    EXPECT_EQ(colourAt(0, 0), black) << "and its X, which begins in the corner";
+    for (const auto& [X, Y] : {Point{0, 0}, {1232, 0}, {0, 1917}, {1232, 1917}, {616, 958}}) {
+        EXPECT_EQ(colourAt(X, Y), black) << "and its X from corner to corner: " << X << "," << Y;
+    }
     const QRgb ground = colourAt(6500, 5500);
     EXPECT_EQ(ground, toQColor(tableGreen).rgb());
 
     mouse(QTest::MousePress, 4400, 3500, Qt::LeftButton);
     mouse(QTest::MouseMove, 5000, 5000);
     EXPECT_EQ(colourAt(600, 100), blue) << "a pile while a card is dragged";
+    int leastGreen = 255; // where the circle of a marked card cuts a level line, it is red
+    for (float X = 3890; X < 3940; X += 5) {
+        leastGreen = std::min(leastGreen, qGreen(colourAt(X, 2959)));
+    }
+    EXPECT_LT(leastGreen, 128);
     mouse(QTest::MouseRelease, 5000, 5000, Qt::LeftButton);
+    mouse(QTest::MousePress, 1350, 1150, Qt::LeftButton);
+    mouse(QTest::MouseRelease, 300, 300, Qt::LeftButton);
+    EXPECT_EQ(colourAt(1227, 900), qRgb(102, 102, 102)) << "the right edge of a pile with one card";
+    EXPECT_EQ(colourAt(600, 1912), qRgb(51, 51, 51)) << "and its lower one";
     expectBorderOf(*mainMod.tableTracker->identifyCard(5000, 5000), picture(surface), scale);
 }
 
@@ -127,22 +139,25 @@ TEST_F(Windows, ASlowDragKeepsTheCardUnderTheHandAtEveryScale) {
         ASSERT_EQ(ace->getStr(), "Ace of Spades");
         const PixelScale pixels(scaleOf(table) * surface->devicePixelRatioF());
         const QPoint origin = surface->mapTo(table, QPoint(0, 0));
-        const auto twips = [&](int pixel) { return pixels.twips(pixel * surface->devicePixelRatioF()); };
-        const auto act = [&](QTest::MouseAction action, QPoint at, Qt::MouseButton button) {
-            QTest::mouseEvent(action, table->windowHandle(), button, {}, origin + at);
+        const auto twips = [&](int pixel) { return pixels.twips(pixel); };
+        const auto act = [&](QEvent::Type type, QPoint at, Qt::MouseButton button) { // at a device pixel
+            const QPointF place = origin + QPointF(at) / surface->devicePixelRatioF();
+            const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, place, place, table->mapToGlobal(place), button, held, {});
+            QCoreApplication::sendEvent(table->windowHandle(), &event);
         };
         table->setUpdatesEnabled(false);
-        QPoint at(qRound(333 * scale), qRound(333 * scale));
+        QPoint at(pixels.pixel(5000), pixels.pixel(5000));
         const float heldX = twips(at.x()) - static_cast<float>(ace->x1());
         const float heldY = twips(at.y()) - static_cast<float>(ace->y1());
-        act(QTest::MousePress, at, Qt::LeftButton);
+        act(QEvent::MouseButtonPress, at, Qt::LeftButton);
         for (int step = 0; step < 400; ++step) {
             at += step < 200 ? QPoint(1, -(step % 2)) : QPoint(-1, step % 2);
-            act(QTest::MouseMove, at, Qt::NoButton);
+            act(QEvent::MouseMove, at, Qt::NoButton);
             ASSERT_EQ(twips(at.x()) - static_cast<float>(ace->x1()), heldX) << "step " << step << " at " << scale;
             ASSERT_EQ(twips(at.y()) - static_cast<float>(ace->y1()), heldY) << "step " << step << " at " << scale;
         }
-        act(QTest::MouseRelease, at, Qt::LeftButton);
+        act(QEvent::MouseButtonRelease, at, Qt::LeftButton);
         table->setUpdatesEnabled(true);
         expectBorderOf(*ace, picture(surface), pixels);
     }

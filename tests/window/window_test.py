@@ -141,6 +141,55 @@ class WindowTest(unittest.TestCase):
         game.wait_for_label("Pile (empty)")
         self.leave(game)
 
+    def test_card_thrown_out_of_the_table_comes_back_under_the_hand(self):
+        game = self.start_table()
+        card = game.lift(in_spread(51), BELOW)
+        game.mouse((3900, 9000), (8500, 9000), (8500, -900), (5400, 4300))
+        wait("the card under the hand", lambda: game.look((5400, 4300)) == card)
+        game.mouse("mouseup 1")
+        self.leave(game)
+
+    def test_drag_goes_on_when_a_box_was_closed_by_key(self):
+        game = self.start_table()
+        card = game.lift(in_spread(4), (7875, 405))
+        game.mouse((7875, -30))
+        self.assert_told(game, LOWEST, "Return")
+        game.in_front("Tumble")
+        game.mouse(BELOW)
+        wait("the card under the hand", lambda: game.look(BELOW) == card)
+        game.key("alt+h")
+        game.in_front("Tumble Instructions")
+        game.key("Return")
+        game.in_front("Tumble")
+        game.mouse((5400, 4300), "mouseup 1", FREE)
+        game.wait_for_label("None")
+        self.assertEqual(game.look((5400, 4300)), card)
+        self.leave(game)
+
+    def test_card_is_dropped_when_its_window_went_from_the_screen(self):
+        game = self.start_table()
+        card = game.lift(in_spread(51), BELOW)
+        self.screen.xdotool("windowminimize", game.window)
+        wait("the bare screen", lambda: self.screen.xdotool("getactivewindow") != game.window)
+        game.mouse("mouseup 1")
+        self.screen.xdotool("windowmap", game.window, "windowactivate", game.window)
+        wait("the table", lambda: game.look(BELOW) == card)
+        game.mouse(FREE)
+        game.wait_for_label("None")
+        self.assertEqual(game.look(BELOW), card)
+        self.leave(game)
+
+    def test_buttons_of_a_blocked_form_do_nothing(self):
+        game = self.start_table()
+        wait("the buttons", lambda: "Exit" in game.read("push button"))
+        leave = next(button for button in game.seen("push button") if button.get_name() == "Exit")
+        game.press("Help")
+        game.in_front("Tumble Instructions")
+        leave.do_action(0)
+        self.close(game, "Return")
+        game.in_front("Tumble")
+        self.leave(game)
+
     def test_drag_survives_another_window(self):
         game = self.start_table()
         game.lift(in_spread(51), BELOW)
