@@ -48,9 +48,10 @@ void fitToScale(QMessageBox& box, double windowScale, int widest) {
     button->setMinimumSize(buttonSize * scale);
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
         const int caption = box.fontMetrics().horizontalAdvance(box.windowTitle()) + windowButtons;
-        const int width = std::min(std::max(caption, qRound(lines * scale)), widest);
+        const QMargins edges = grid->contentsMargins() * scale;
+        const int width = std::min(std::max(caption, qRound(lines * scale)), widest) - edges.left() - edges.right();
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-        grid->setContentsMargins(grid->contentsMargins() * scale);
+        grid->setContentsMargins(edges);
         grid->setSpacing(qRound(grid->verticalSpacing() * scale));
     }
 }
@@ -159,6 +160,7 @@ void QtDesktop::Refresh(Form& form) {
         QTimer::singleShot(longestWaitForScreen, &untilExposed, &QEventLoop::quit);
         untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
     }
+    window->showPaintings();
     window->repaint();
 }
 

@@ -3,7 +3,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLayout>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -11,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <utility>
 
 namespace tumble {
 
@@ -64,16 +67,17 @@ namespace {
 
 /// Does what opens a modal window, looks at it, and closes it by a key.
 void inModal(const std::function<void()>& open, Qt::Key key, const std::function<void(QWidget*)>& look) {
-    bool looked = false;
+    QPointer<QWidget> before = QApplication::activeWindow();
     QTimer::singleShot(0, qApp, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        ASSERT_TRUE(modal != nullptr && QTest::qWaitForWindowActive(modal));
-        looked = true;
-        look(modal);
-        QTest::keyClick(modal, key);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() != before; }));
+        QWidget* opened = QApplication::activeWindow();
+        EXPECT_TRUE(opened->isModal());
+        look(opened);
+        QTest::keyClick(opened, key);
+        before = nullptr;
     });
     open();
-    EXPECT_TRUE(looked);
+    EXPECT_EQ(before, nullptr) << "it did not wait";
 }
 
 /// The window lies with its frame inside the screen, in the middle of a place, and bears the game's icon.
@@ -99,6 +103,10 @@ protected:
         QCoreApplication::processEvents();
         EXPECT_EQ(dialog->screen(), screen);
         return dialog;
+    }
+
+    void refuse() {
+        desktop.MsgBox("You must play either a Queen of Diamonds or a King of Diamonds or a Joker", "Invalid Move!");
     }
 
     QWidget* play(QWidget* dialog) {
@@ -128,12 +136,13 @@ TEST_P(EachScreen, HoldsWhatOpensThere) {
                 EXPECT_NEAR(scaleOf(about), scale, 0.01);
                 expectInMiddle(about, screen->geometry());
             });
-    inModal([] { frmTumble::cmdHelp_Click(); }, Qt::Key_Return,
-            [&](const QWidget* help) {
-                const auto* box = qobject_cast<const QMessageBox*>(help);
+    inModal([this] { refuse(); }, Qt::Key_Return,
+            [&](const QWidget* message) {
+                const auto* box = qobject_cast<const QMessageBox*>(message);
                 EXPECT_EQ(box->windowHandle()->transientParent(), table->windowHandle());
                 EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
                 EXPECT_EQ(box->buttons().size(), 1);
+                EXPECT_TRUE(screen->geometry().contains(box->frameGeometry()));
                 if (scale > 0.75) {
                     expectInMiddle(box, table->frameGeometry());
                 }
@@ -143,7 +152,7 @@ TEST_P(EachScreen, HoldsWhatOpensThere) {
 INSTANTIATE_TEST_SUITE_P(Screens, EachScreen, testing::Range(0, static_cast<int>(testScreens.size())));
 
 TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
-    QScreen* screen = screenAt(2);
+    QScreen* screen = screenAt(3);
     const auto f11 = [](QWidget* window) {
         QTest::keyClick(window, Qt::Key_F11);
         QCoreApplication::processEvents();
@@ -154,6 +163,11 @@ TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
     QWidget* table = play(dialog);
     EXPECT_EQ(table->windowState(), Qt::WindowMaximized);
     EXPECT_EQ(table->frameGeometry(), screen->geometry());
+    inModal([this] { refuse(); }, Qt::Key_Escape,
+            [&](const QWidget* box) {
+                EXPECT_GT(box->fontMetrics().height(), 1.5 * table->fontMetrics().height());
+                EXPECT_LE(box->layout()->totalMinimumSize().width(), box->width());
+            });
     f11(table);
     EXPECT_TRUE(table->isFullScreen());
     EXPECT_EQ(table->geometry(), screen->geometry());
@@ -166,6 +180,73 @@ TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
             });
     f11(table);
     EXPECT_EQ(table->windowState(), Qt::WindowMaximized);
+}
+
+/// Acts when a widget paints for the first time.
+class OnFirstPaint : public QObject {
+public:
+    OnFirstPaint(const QString& name, std::function<void(QWidget&)> act) : name_(name), act_(std::move(act)) {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint && object->objectName() == name_ && act_ != nullptr) {
+            std::exchange(act_, nullptr)(*qobject_cast<QWidget*>(object));
+        }
+        return false;
+    }
+
+private:
+    QString name_;
+    std::function<void(QWidget&)> act_;
+};
+
+TEST_F(Windows, TheTableShowsEmptyUnderAnHourglassBeforeTheDeal) {
+    bool shown = false;
+    const OnFirstPaint atTheTable("picTable", [&](QWidget& surface) {
+        shown = true;
+        EXPECT_TRUE(mainMod.table().picTable.painting().items().empty());
+        EXPECT_EQ(surface.cursor().shape(), Qt::WaitCursor);
+        QMouseEvent press(QEvent::MouseButtonPress, {9, 9}, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&surface, &press);
+        QTest::keyClick(&surface, Qt::Key_Return); // which at another time leaves the game
+    });
+    const QWidget* table = openTable();
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(control("Tumble", "picTable")->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_EQ(mainMod.table().lblCurrentCard.Caption(), "");
+}
+
+TEST_F(Windows, RefreshBringsEverythingToTheScreenAtOnce) {
+    openTable();
+    const QImage before = control("Tumble", "picTable")->grab().toImage();
+    bool captionShown = false;
+    const OnFirstPaint atTheLabel("lblCurrentCard", [&](const QWidget&) { captionShown = true; });
+    mainMod.table().lblCurrentCard.Caption("None");
+    mainMod.table().Refresh();
+    EXPECT_TRUE(captionShown);
+    mainMod.tableTracker->identifyCard(4400, 3500);
+    mainMod.tableTracker->flipCurCard();
+    mainMod.table().Refresh();
+    EXPECT_NE(control("Tumble", "picTable")->grab().toImage(), before);
+}
+
+TEST_F(Windows, AMessageBelongsToTheWindowShownLastOfThoseThatShow) {
+    Form first("first", 3000, 1500);
+    Form second("second", 3000, 1500);
+    const auto expectMessageOver = [&](const char* title) {
+        inModal([&] { desktop.MsgBox("text"); }, Qt::Key_Return,
+                [&](const QWidget* box) { EXPECT_EQ(box->windowHandle()->transientParent()->title(), title); });
+    };
+    first.Show();
+    second.Show();
+    expectMessageOver("second");
+    first.Show();
+    expectMessageOver("first");
+    first.Hide();
+    expectMessageOver("second");
 }
 
 } // namespace
