@@ -1,5 +1,6 @@
 #include "Windows.h"
 
+#include <QAbstractButton>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -247,6 +248,18 @@ TEST_F(Windows, AMessageBelongsToTheWindowShownLastOfThoseThatShow) {
     expectMessageOver("first");
     first.Hide();
     expectMessageOver("second");
+}
+
+TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
+    QWidget* table = openTable();
+    inModal([] { frmTumble::cmdHelp_Click(); }, Qt::Key_Return,
+            [&](const QWidget* /*box*/) {
+                qobject_cast<QAbstractButton*>(control("Tumble", "cmdExit"))->click(); // as a screen reader does
+                table->close();
+            });
+    EXPECT_TRUE(table->isVisible());
+    mainMod.table().cmdExit.Click();
+    EXPECT_FALSE(table->isVisible());
 }
 
 } // namespace

@@ -179,17 +179,6 @@ class WindowTest(unittest.TestCase):
         self.assertEqual(game.look(BELOW), card)
         self.leave(game)
 
-    def test_buttons_of_a_blocked_form_do_nothing(self):
-        game = self.start_table()
-        wait("the buttons", lambda: "Exit" in game.read("push button"))
-        leave = next(button for button in game.seen("push button") if button.get_name() == "Exit")
-        game.press("Help")
-        game.in_front("Tumble Instructions")
-        leave.do_action(0)
-        self.close(game, "Return")
-        game.in_front("Tumble")
-        self.leave(game)
-
     def test_drag_survives_another_window(self):
         game = self.start_table()
         game.lift(in_spread(51), BELOW)
