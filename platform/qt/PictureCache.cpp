@@ -23,12 +23,14 @@ QImage crossedCard(QSize size) {
 
 } // namespace
 
-const QImage& PictureCache::image(const Picture& picture, QSize size) {
-    const auto [place, isNew] = images_.try_emplace({&picture, size.width(), size.height()});
-    if (isNew) {
-        place->second = make(picture, size);
+QImage PictureCache::image(const Picture& picture, QSize size) {
+    const std::pair key(&picture, std::pair(size.width(), size.height()));
+    if (const QImage* kept = images_.object(key)) {
+        return *kept;
     }
-    return place->second;
+    QImage made = make(picture, size);
+    images_.insert(key, new QImage(made));
+    return made;
 }
 
 QImage PictureCache::make(const Picture& picture, QSize size) const {

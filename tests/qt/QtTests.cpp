@@ -234,6 +234,26 @@ TEST(PictureCacheTest, FallsBackToWhatCanBeShown) {
     }
 }
 
+TEST(PictureCacheTest, KeepsWhatIsUsed) {
+    int made = 0;
+    PictureCache pictures([&made](const auto&, QSize size) {
+        ++made;
+        return QImage(size, QImage::Format_RGB32);
+    });
+    const auto madeFor = [&, any = Picture("any", {})](int width) {
+        const int before = made;
+        EXPECT_EQ(pictures.image(any, {width, 1}).width(), width);
+        return made - before;
+    };
+    constexpr int inUse = 1;
+    EXPECT_EQ(madeFor(inUse), 1);
+    for (int width = 2; width <= 1000; ++width) {
+        EXPECT_EQ(madeFor(width) + madeFor(inUse), 1) << width;
+    }
+    EXPECT_EQ(madeFor(1000 - 104), 0) << "a table of two packs";
+    EXPECT_EQ(madeFor(2), 1) << "used long ago";
+}
+
 /// What the toolkit complains of during a test fails it.
 void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
     const bool ofNoDisplay = message.startsWith("This plugin does not support");
