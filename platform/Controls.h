@@ -32,6 +32,7 @@ struct Place {
 struct Font {
     float points = 8.25F;
     bool bold = false;
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 /// What holds controls: a form or a frame. The controls are its owner's members; it only lists them, in their order.

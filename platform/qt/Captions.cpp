@@ -20,24 +20,29 @@ void setPoints(QFont& font, double points) {
     font.setPointSizeF(points * 96 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
 }
 
-bool fits(const QFont& font, const QString& caption, QSize room, Wrap wrap) {
-    const int flags = Qt::TextShowMnemonic | (wrap == Wrap::Words ? Qt::TextWordWrap : 0);
-    const QSize needed = QFontMetrics(font).boundingRect(QRect({0, 0}, room), flags, caption).size();
-    return needed.width() <= room.width() && needed.height() <= room.height();
+bool fit(const QFont& font, const std::vector<CaptionInRoom>& captions, Wrap wrap) {
+    const int flags = Qt::TextShowMnemonic | (wrap == Wrap::No ? 0 : Qt::TextWordWrap);
+    const QFontMetrics metrics(font);
+    const int overTwoLines = metrics.lineSpacing() * 5 / 2; // lines are rounded up
+    return std::all_of(captions.begin(), captions.end(), [&](const CaptionInRoom& each) {
+        const QSize needed = metrics.boundingRect(QRect({0, 0}, each.room), flags, each.caption).size();
+        return needed.width() <= each.room.width() && needed.height() <= each.room.height() &&
+               (wrap != Wrap::Twice || needed.height() < overTwoLines);
+    });
 }
 
 } // namespace
 
-QFont captionFont(const Font& wanted, double scale, const QString& caption, QSize room, Wrap wrap) {
+QFont captionFont(const Font& wanted, double scale, const std::vector<CaptionInRoom>& captions, Wrap wrap) {
     QFont font = QApplication::font();
     font.setBold(wanted.bold);
     auto points = static_cast<double>(wanted.points);
     setPoints(font, points * scale);
-    while (!fits(font, caption, room, wrap) && points > leastPoints) {
+    while (!fit(font, captions, wrap) && points > leastPoints) {
         points = std::max(points - pointStep, leastPoints);
         setPoints(font, points * scale);
     }
-    for (int stretch = 100 - stretchStep; !fits(font, caption, room, wrap) && stretch >= leastStretch;
+    for (int stretch = 100 - stretchStep; !fit(font, captions, wrap) && stretch >= leastStretch;
          stretch -= stretchStep) {
         font.setStretch(stretch);
     }

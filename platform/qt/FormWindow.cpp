@@ -52,6 +52,10 @@ Place roomOf(const OptionButton& option) {
     return {room.Left, room.Top - free / 2, room.Width, room.Height + free};
 }
 
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 constexpr QSize buttonMargin(8, 4);    // logical pixels
 constexpr int iconSize = 32;           // logical pixels at scale 1
 constexpr int frameCaptionHeight = 16; // likewise
@@ -117,6 +121,13 @@ void FormWindow::changed(const Control& control) {
     if (const auto update = updates_.find(&control); update != updates_.end()) {
         update->second();
     }
+    const auto group = std::find_if(captions_.begin(), captions_.end(), [&](const Captions& captions) {
+        return std::any_of(captions.each.begin(), captions.each.end(),
+                           [&](const auto& each) { return each.control == &control; });
+    });
+    if (group != captions_.end()) {
+        fit(*group);
+    }
 }
 
 SurfaceWidget* FormWindow::surface(const PictureBox& box) const {
@@ -142,6 +153,7 @@ void FormWindow::retire() {
     }
     surfaces_.clear();
     updates_.clear();
+    captions_.clear();
     for (const auto& [widget, room] : placed_) {
         disconnect(widget, nullptr, this, nullptr);
     }
@@ -156,9 +168,21 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Expose) {
+        learnFrame();
+    }
+    // Some themes give Enter to the button that has the focus; here it is the default button's.
+    if (watched->isWidgetType() && event->type() == QEvent::KeyPress && isEnter(static_cast<QKeyEvent&>(*event))) {
+        keyPressEvent(static_cast<QKeyEvent*>(event));
+        return true;
+    }
+    return false;
+}
+
 // The frame comes with the window: the first one opens for a usual frame, and is set right as soon as it shows.
-bool FormWindow::eventFilter(QObject* /*window*/, QEvent* event) {
-    if (event->type() == QEvent::Expose && !frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
+void FormWindow::learnFrame() {
+    if (!frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
         const bool asOpened = size() == openingSize();
         frame_ = windowHandle()->frameMargins();
         keepLeastSize();
@@ -168,7 +192,6 @@ bool FormWindow::eventFilter(QObject* /*window*/, QEvent* event) {
                 QRect(room().corner(content, room().inside()) + QPoint(frame_->left(), frame_->top()), content));
         }
     }
-    return false;
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
@@ -176,8 +199,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
         setWindowState(windowState() ^ Qt::WindowFullScreen);
         return;
     }
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    QAbstractButton* button = enter ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
+    QAbstractButton* button = isEnter(*event) ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
     if (button != nullptr) {
         button->click();
     }
@@ -188,6 +210,7 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
         QWidget* widget = build(*control, parent);
         widget->setObjectName(QString::fromStdString(control->Name()));
         widget->setStyle(&style_);
+        widget->installEventFilter(this);
         placed_.push_back({widget, roomOf(*control)});
         byTabIndex_.emplace(control->TabIndex(), widget);
     };
@@ -208,10 +231,8 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    updates_.emplace(&label, [this, &label, widget] {
-        widget->setFont(captionFont(label.font, label.Caption(), widget->size(), Wrap::Words));
-        widget->setText(QString::fromStdString(label.Caption()));
-    });
+    addCaption(label, label.font, Wrap::Freely, widget, [widget] { return widget->size(); });
+    updates_.emplace(&label, [&label, widget] { widget->setText(QString::fromStdString(label.Caption())); });
     return widget;
 }
 
@@ -226,9 +247,9 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
     widget->setDefault(button.pressedByEnter());
     enterButton_ = button.pressedByEnter() ? widget : enterButton_;
     escButton_ = button.pressedByEsc() ? widget : escButton_;
+    addCaption(button, {}, Wrap::No, widget, [widget] { return widget->size() - buttonMargin; });
     updates_.emplace(&button, [this, &button, widget] {
         widget->setIconSize(QSize(iconSize, iconSize) * scale_);
-        widget->setFont(captionFont({}, button.Caption(), widget->size() - buttonMargin, Wrap::Lines));
         widget->setText(QString::fromStdString(button.Caption()));
     });
     connect(widget, &QPushButton::clicked, this, [&button] { button.Click(); });
@@ -237,8 +258,8 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
 
 QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     auto* widget = new WrappingRadioButton(parent);
-    updates_.emplace(&option, [this, &option, widget] {
-        widget->setFont(captionFont({}, option.Caption(), widget->captionRoom().size(), Wrap::Words));
+    addCaption(option, {}, Wrap::Twice, widget, [widget] { return widget->captionRoom().size(); });
+    updates_.emplace(&option, [&option, widget] {
         widget->setText(QString::fromStdString(option.Caption()));
         widget->setChecked(option.Value());
         // Tab comes to the selected choice of a frame, the arrows go on from there.
@@ -255,9 +276,9 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
 
 QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
     auto* widget = new CaptionedFrame(parent);
+    addCaption(frame, frame.font, Wrap::No, widget, [widget] { return widget->captionRoom().size(); });
     updates_.emplace(&frame, [this, &frame, widget] {
         widget->captionHeight(qRound(frameCaptionHeight * scale_));
-        widget->setFont(captionFont(frame.font, frame.Caption(), widget->captionRoom().size(), Wrap::Lines));
         widget->setTitle(QString::fromStdString(frame.Caption()));
     });
     buildControls(frame, widget);
@@ -281,8 +302,24 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     return widget;
 }
 
-QFont FormWindow::captionFont(const Font& font, const std::string& caption, QSize room, Wrap wrap) const {
-    return tumble::captionFont(font, scale_, QString::fromStdString(caption), room, wrap);
+void FormWindow::addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget,
+                            std::function<QSize()> room) {
+    const auto alike = std::find_if(captions_.begin(), captions_.end(), [&](const Captions& captions) {
+        return captions.container == &control.container() && captions.font == font && captions.wrap == wrap;
+    });
+    Captions& captions = alike != captions_.end() ? *alike : captions_.emplace_back(&control.container(), font, wrap);
+    captions.each.push_back({&control, widget, std::move(room)});
+}
+
+void FormWindow::fit(const Captions& captions) const {
+    std::vector<CaptionInRoom> inRooms;
+    for (const auto& [control, widget, room] : captions.each) {
+        inRooms.push_back({QString::fromStdString(control->Caption()), room()});
+    }
+    const QFont font = captionFont(captions.font, scale_, inRooms, captions.wrap);
+    for (const auto& [control, widget, room] : captions.each) {
+        widget->setFont(font);
+    }
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
@@ -306,6 +343,9 @@ void FormWindow::layOut() {
     }
     for (const auto& [control, update] : updates_) {
         update();
+    }
+    for (const Captions& captions : captions_) {
+        fit(captions);
     }
     for (const auto& [box, surface] : surfaces_) {
         surface->scale(scale_);

@@ -64,7 +64,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* window, QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -82,7 +82,25 @@ private:
     QSize openingSize() const;
     QSize sizeAt(double scale) const { return (formSize_ * scale).toSize(); }
     void layOut();
-    QFont captionFont(const Font& font, const std::string& caption, QSize room, Wrap wrap) const;
+    void addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget, std::function<QSize()> room);
+
+    /// Captions of one container that are alike, and so have one size.
+    struct Captions {
+        struct Each {
+            const Control* control;
+            QWidget* widget;
+            std::function<QSize()> room; // logical pixels
+        };
+        Captions(const Container* owner, const Font& wanted, Wrap wrapping)
+            : container(owner), font(wanted), wrap(wrapping) {}
+
+        const Container* container;
+        Font font;
+        Wrap wrap;
+        std::vector<Each> each;
+    };
+    void fit(const Captions& captions) const;
+    void learnFrame();
 
     struct Placed {
         QWidget* widget;
@@ -101,6 +119,7 @@ private:
     QAbstractButton* escButton_ = nullptr;
     std::map<const PictureBox*, SurfaceWidget*> surfaces_;
     std::map<const Control*, std::function<void()>> updates_;
+    std::vector<Captions> captions_;
     std::multimap<int, QWidget*> byTabIndex_;
 };
 

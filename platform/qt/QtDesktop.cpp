@@ -89,6 +89,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
         icon_.addPixmap(QPixmap::fromImage(pictures_.image(App().Icon, {size, size})));
     }
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
     announceSurfaces();
     qApp->installEventFilter(&heldKeys_);
     desktop(this);

@@ -8,9 +8,11 @@
 #include <QImage>
 #include <QLabel>
 #include <QPalette>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace tumble {
 
@@ -59,10 +61,12 @@ double contrast(const QImage& caption) {
     return (lightest + 0.05) / (darkest + 0.05);
 }
 
-/// No caption of the window is cut off or too small to read.
+/// No caption of the window is cut off or too small to read; the choices of a frame have one size and two lines at
+/// most.
 void expectCaptionsFit(const QWidget* window) {
     const double scale = dynamic_cast<const FormWindow*>(window)->scale();
     int captions = 0;
+    std::map<const QObject*, QFont> fonts; // of the choices of each frame
     for (QWidget* widget : window->findChildren<QWidget*>()) {
         const auto [text, room, flags] = captionOf(widget);
         if (text.isEmpty()) {
@@ -74,6 +78,10 @@ void expectCaptionsFit(const QWidget* window) {
         EXPECT_LE(needed.width(), room.width()) << where << " at " << scale;
         EXPECT_LE(needed.height(), room.height()) << where << " at " << scale;
         EXPECT_GE(widget->font().pointSizeF() * widget->logicalDpiY(), 6.5 * 96 * scale - 0.01) << where;
+        if (dynamic_cast<const WrappingRadioButton*>(widget) != nullptr) {
+            EXPECT_LT(needed.height(), QFontMetrics(widget->font()).lineSpacing() * 5 / 2) << where << " at " << scale;
+            EXPECT_EQ(fonts.emplace(widget->parent(), widget->font()).first->second, widget->font()) << where;
+        }
         if (scale < 1.5) { // colours do not depend on it, but the time this takes does
             EXPECT_GE(contrast(widget->grab(room).toImage()), 4.5) << where;
         }
@@ -89,8 +97,8 @@ QPalette darkPalette() {
 
 TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
     const QPalette light = QApplication::palette();
-    for (const char* file :
-         {"dejavu/DejaVuSans.ttf", "liberation/LiberationSans-Regular.ttf", "noto/NotoSans-Regular.ttf"}) {
+    for (const char* file : {"dejavu/DejaVuSans.ttf", "liberation/LiberationSans-Regular.ttf",
+                             "noto/NotoSans-Regular.ttf", "dejavu/DejaVuSansMono.ttf"}) {
         const int id = QFontDatabase::addApplicationFont("/usr/share/fonts/truetype/" + QString(file));
         ASSERT_GE(id, 0) << file;
         QApplication::setFont(QFont(QFontDatabase::applicationFontFamilies(id).constFirst()));
@@ -98,7 +106,7 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
         MainMod game;
         game.Main();
         QWidget* dialog = window("Tumble Options");
-        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0}) {
+        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0, 0.85, 0.75}) {
             QApplication::setPalette(scale == 1.25 ? darkPalette() : light);
             resizeTo(scale, dialog);
             game.options().optDeckBigPinochle.Select();
@@ -108,7 +116,7 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
         game.options().cmdPlay.Click();
         frmAbout about;
         about.Show();
-        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0}) {
+        for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0, 0.85, 0.75}) {
             QApplication::setPalette(scale == 1.25 ? darkPalette() : light);
             resizeTo(scale, window("Tumble"));
             resizeTo(scale, window("About Tumble"));
@@ -119,6 +127,21 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
         }
     }
     QApplication::setPalette(light);
+}
+
+/// As the toolkit's own translations into Arabic and Hebrew have it.
+class RightToLeft : public QTranslator {
+public:
+    QString translate(const char* /*context*/, const char* text, const char* /*hint*/, int /*n*/) const override {
+        return QLatin1String(text) == QLatin1String("QT_LAYOUT_DIRECTION") ? QStringLiteral("RTL") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(Windows, ControlsKeepTheirPlacesInEveryLanguage) {
+    RightToLeft language;
+    QCoreApplication::installTranslator(&language);
+    EXPECT_EQ(openDialog()->layoutDirection(), Qt::LeftToRight);
 }
 
 TEST_F(Windows, ThePreviewsLieOnTheWindowItselfInAnyPalette) {

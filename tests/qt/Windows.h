@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace tumble {
@@ -64,8 +65,13 @@ protected:
 
     static double scaleOf(const QWidget* window) { return dynamic_cast<const FormWindow*>(window)->scale(); }
 
+    /// Below scale 1 as on a screen that is too small for it.
     static void resizeTo(double scale, QWidget* window) {
-        window->resize((QSizeF(window->minimumSize()) * scale).toSize());
+        const QVariant known = window->property("unscaled");
+        const QSize unscaled = known.isValid() ? known.toSize() : window->minimumSize();
+        window->setProperty("unscaled", unscaled);
+        window->setMinimumSize((QSizeF(unscaled) * std::min(scale, 1.0)).toSize());
+        window->resize((QSizeF(unscaled) * scale).toSize());
         QCoreApplication::processEvents();
     }
 

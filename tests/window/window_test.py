@@ -64,6 +64,20 @@ class WindowTest(unittest.TestCase):
             with self.subTest(way):
                 self.leave(self.start_table(), way)
 
+    def test_enter_is_the_default_buttons_whatever_has_the_focus(self):
+        screen = Screen(XDG_CURRENT_DESKTOP="GNOME")  # whose theme gives Enter to the button with the focus
+        self.addCleanup(screen.close)
+        for keys in (["Tab"], ["Tab", "Tab"]):  # Exit, the sizes
+            with self.subTest(keys):
+                game = Game(screen, PROGRAM)
+                screen.xdotool("key", *keys, "Return")
+                game.in_front("Tumble")
+                screen.xdotool("key", "Tab", "Tab", "space")  # Help
+                game.in_front("Tumble Instructions")
+                self.close(game, "Return")
+                game.in_front("Tumble")
+                self.leave(game)
+
     def test_boxes_close_in_every_way_while_a_screen_reader_listens(self):
         listener = self.screen.reader().EventListener.new(lambda event: None)
         listener.register("window")
