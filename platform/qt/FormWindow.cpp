@@ -80,8 +80,7 @@ FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before,
         setWindowModality(Qt::ApplicationModal);
     }
     followScreen(screen());
-    resize(openingSize());
-    move(room().corner(size(), room().inside()));
+    setGeometry(openingPlace());
     create();
     if (modality == Modality::Modeless) {
         setWindowState(before.state);
@@ -112,9 +111,9 @@ void FormWindow::keepLeastSize() {
     setMinimumSize(sizeAt(room().leastScale(largestForm())));
 }
 
-QSize FormWindow::openingSize() const {
+QRect FormWindow::openingPlace() const {
     const double scale = isModal() ? scale_ : room().openingScale(largestForm());
-    return sizeAt(std::min(scale, room().largestScale(formSize_)));
+    return room().place(sizeAt(std::min(scale, room().largestScale(formSize_))), room().inside());
 }
 
 void FormWindow::changed(const Control& control) {
@@ -183,13 +182,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 // The frame comes with the window: the first one opens for a usual frame, and is set right as soon as it shows.
 void FormWindow::learnFrame() {
     if (!frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
-        const bool asOpened = size() == openingSize();
+        const bool asOpened = size() == openingPlace().size();
         frame_ = windowHandle()->frameMargins();
         keepLeastSize();
         if (asOpened) {
-            const QSize content = openingSize();
-            setGeometry(
-                QRect(room().corner(content, room().inside()) + QPoint(frame_->left(), frame_->top()), content));
+            setGeometry(openingPlace());
         }
     }
 }

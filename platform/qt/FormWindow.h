@@ -79,7 +79,7 @@ private:
     void setTabOrderByIndex();
     void followScreen(QScreen* screen);
     void keepLeastSize();
-    QSize openingSize() const;
+    QRect openingPlace() const;
     QSize sizeAt(double scale) const { return (formSize_ * scale).toSize(); }
     void layOut();
     void addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget, std::function<QSize()> room);

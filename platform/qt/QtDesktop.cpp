@@ -36,9 +36,10 @@ int widestBox(int room) {
 void fitToScale(QMessageBox& box, double windowScale, int widest) {
     constexpr int windowButtons = 120; // logical pixels, as all here
     constexpr int margins = 60;
+    constexpr int marginsInside = 40;
     constexpr QSize buttonSize(80, 26);
-    const int lines = box.fontMetrics().size(0, box.text()).width() + margins;
-    const double scale = std::min(windowScale, static_cast<double>(widest) / lines);
+    const auto textWidth = [&box] { return box.fontMetrics().size(0, box.text()).width(); };
+    const double scale = std::min(windowScale, static_cast<double>(widest) / (textWidth() + margins));
 
     QFont font = box.font();
     font.setPointSizeF(font.pointSizeF() * scale);
@@ -47,9 +48,10 @@ void fitToScale(QMessageBox& box, double windowScale, int widest) {
     button->setIcon({});
     button->setMinimumSize(buttonSize * scale);
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-        const int caption = box.fontMetrics().horizontalAdvance(box.windowTitle()) + windowButtons;
         const QMargins edges = grid->contentsMargins() * scale;
-        const int width = std::min(std::max(caption, qRound(lines * scale)), widest) - edges.left() - edges.right();
+        const int caption = box.fontMetrics().horizontalAdvance(box.windowTitle()) + windowButtons;
+        const int text = textWidth() + qRound(marginsInside * scale);
+        const int width = std::min(std::max(caption, text), widest - edges.left() - edges.right());
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
         grid->setContentsMargins(edges);
         grid->setSpacing(qRound(grid->verticalSpacing() * scale));
@@ -65,7 +67,7 @@ protected:
     void showEvent(QShowEvent* event) override {
         QMessageBox::showEvent(event);
         if (const auto* parent = dynamic_cast<const FormWindow*>(parentWidget())) {
-            move(parent->room().corner(size(), parent->geometry()));
+            setGeometry(parent->room().place(size(), parent->geometry()));
         }
     }
 };

@@ -45,11 +45,13 @@ double ScreenRoom::openingScale(QSizeF form) const {
     return std::max(std::floor(scale * stepsPerScale) / stepsPerScale, leastScale(form));
 }
 
-QPoint ScreenRoom::corner(QSize content, const QRect& around) const {
-    QRect window({}, content.grownBy(frame_));
-    window.moveCenter(around.marginsAdded(frame_).center());
-    return {std::max(std::min(window.x(), available_.right() - window.width() + 1), available_.x()),
-            std::max(std::min(window.y(), available_.bottom() - window.height() + 1), available_.y())};
+QRect ScreenRoom::place(QSize content, const QRect& around) const {
+    const QRect inside = this->inside();
+    QRect place({}, content);
+    place.moveCenter(around.center());
+    place.moveLeft(std::max(std::min(place.x(), inside.right() - place.width() + 1), inside.x()));
+    place.moveTop(std::max(std::min(place.y(), inside.bottom() - place.height() + 1), inside.y()));
+    return place;
 }
 
 } // namespace tumble

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMargins>
-#include <QPoint>
 #include <QRect>
 #include <QSizeF>
 
@@ -29,9 +28,9 @@ public:
     /// The scale at which a form opens: the largest in steps of an eighth at which it takes no more than four fifths of
     /// the screen, if that is more than the least.
     double openingScale(QSizeF form) const;
-    /// The corner of the frame of a window whose content lies in the middle of the place, as far as the room allows;
-    /// one that is too large begins where the room does.
-    QPoint corner(QSize content, const QRect& around) const;
+    /// The place for a content of that size, in the middle of another as far as the room allows; one that is too large
+    /// begins where the room does.
+    QRect place(QSize content, const QRect& around) const;
 
 private:
     QRect available_;
