@@ -58,7 +58,7 @@ void fitToScale(QMessageBox& box, double windowScale, int widest) {
     }
 }
 
-/// In the middle of the window that it belongs to: the toolkit reckons with frames of its own fancy.
+/// Opens in the middle of the window that it belongs to; left to itself, the toolkit guesses how high its frame is.
 class MessageBox : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
@@ -153,7 +153,7 @@ void QtDesktop::Unload(Form& form) {
 
 // A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
 void QtDesktop::Refresh(Form& form) {
-    FormWindow* window = windowOf(form);
+    const QPointer<FormWindow> window = windowOf(form);
     if (window == nullptr || !window->isVisible()) {
         return;
     }
@@ -163,8 +163,10 @@ void QtDesktop::Refresh(Form& form) {
         QTimer::singleShot(longestWaitForScreen, &untilExposed, &QEventLoop::quit);
         untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
     }
-    window->showPaintings();
-    window->repaint();
+    if (window != nullptr) {
+        window->showPaintings();
+        window->repaint();
+    }
 }
 
 void QtDesktop::MousePointer(Form& form, Pointer pointer) {
@@ -183,8 +185,8 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    const WindowPlace place = parent != nullptr ? parent->place() : lastPlace_;
-    fitToScale(box, place.scale, widestBox(ScreenRoom(*box.screen(), place.frame).inside().width()));
+    const ScreenRoom room = parent != nullptr ? parent->room() : ScreenRoom(*box.screen(), lastPlace_.frame);
+    fitToScale(box, parent != nullptr ? parent->scale() : 1, widestBox(room.inside().width()));
     {
         const Modal modal(*this);
         box.exec();

@@ -11,8 +11,8 @@ namespace tumble {
 
 namespace {
 
-constexpr double largestFactor = 16; // device pixels for each 15 twips
-constexpr QMargins usualFrame(4, 32, 4, 4);
+constexpr double largestFactor = 16;        // device pixels for each 15 twips
+constexpr QMargins usualFrame(4, 32, 4, 4); // logical pixels
 constexpr double shareOfScreen = 0.8;
 constexpr double stepsPerScale = 8;
 

@@ -110,7 +110,7 @@ protected:
         desktop.MsgBox("You must play either a Queen of Diamonds or a King of Diamonds or a Joker", "Invalid Move!");
     }
 
-    QWidget* play(QWidget* dialog) {
+    static QWidget* play(QWidget* dialog) {
         QTest::keyClick(dialog, Qt::Key_Return);
         QWidget* table = window("Tumble");
         EXPECT_TRUE(QTest::qWaitForWindowActive(table));
@@ -186,7 +186,7 @@ TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
 /// Acts when a widget paints for the first time.
 class OnFirstPaint : public QObject {
 public:
-    OnFirstPaint(const QString& name, std::function<void(QWidget&)> act) : name_(name), act_(std::move(act)) {
+    OnFirstPaint(QString name, std::function<void(QWidget&)> act) : name_(std::move(name)), act_(std::move(act)) {
         qApp->installEventFilter(this);
     }
 
