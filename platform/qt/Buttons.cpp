@@ -1,7 +1,8 @@
 #include "platform/qt/Buttons.h"
 
+#include "platform/qt/Contrast.h"
+
 #include <QStyleOptionButton>
-#include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
 namespace tumble {
@@ -10,15 +11,18 @@ namespace {
 
 constexpr int captionFlags = Qt::TextShowMnemonic | Qt::TextWordWrap;
 
-void drawFocus(QStylePainter& painter, const QStyleOptionButton& option, const QRect& place) {
-    if (!option.state.testFlag(QStyle::State_HasFocus)) {
-        return;
+void drawFrame(QPainter& painter, const QPalette& palette, const QRect& outside, int pen) {
+    const double inwards = pen / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(visibleLine(palette.color(QPalette::Highlight), palette), pen));
+    painter.drawRoundedRect(QRectF(outside).adjusted(inwards, inwards, -inwards, -inwards), 2, 2);
+}
+
+// What has the keyboard's attention, once the player uses the keyboard. Styles differ in whether one sees it.
+void drawFocus(QPainter& painter, const QStyleOptionButton& option, const QRect& place) {
+    if (option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+        drawFrame(painter, option.palette, place, 1);
     }
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(option);
-    focus.rect = place;
-    focus.backgroundColor = option.palette.window().color();
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
 }
 
 } // namespace
@@ -58,19 +62,32 @@ void CaptionedFrame::paintEvent(QPaintEvent* /*event*/) {
     const QRect room = captionRoom();
     const QRect caption = painter.fontMetrics().boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, title());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(visibleLine(palette().color(QPalette::Mid), palette()));
     painter.setClipRegion(QRegion(rect()) - caption.adjusted(-3, 0, 3, 0));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, room.center().y() + 0.5, -0.5, -0.5), 3, 3);
     painter.setClipping(false);
     painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), title(), QPalette::WindowText);
 }
 
-void IconAboveButton::paintEvent(QPaintEvent* /*event*/) {
+void FormButton::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    QStyleOptionButton unfocused = option;
+    unfocused.state.setFlag(QStyle::State_HasFocus, false);
+    drawFace(painter, unfocused);
+    if (isDefault()) { // some styles show it as any other
+        drawFrame(painter, option.palette, rect(), 2);
+    }
+    drawFocus(painter, option, rect().adjusted(4, 4, -4, -4));
+}
 
+void FormButton::drawFace(QStylePainter& painter, const QStyleOptionButton& option) const {
+    painter.drawControl(QStyle::CE_PushButton, option);
+}
+
+void IconAboveButton::drawFace(QStylePainter& painter, const QStyleOptionButton& option) const {
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
     const int gap = iconSize().height() / 16;
     const int captionHeight = painter.fontMetrics().height();
     const int top = (height() - iconSize().height() - gap - captionHeight) / 2;
@@ -79,7 +96,6 @@ void IconAboveButton::paintEvent(QPaintEvent* /*event*/) {
     const QRect captionPlace(0, iconPlace.bottom() + 1 + gap, width(), captionHeight);
     painter.drawItemText(captionPlace, captionFlags | Qt::AlignCenter, palette(), isEnabled(), text(),
                          QPalette::ButtonText);
-    drawFocus(painter, option, style()->subElementRect(QStyle::SE_PushButtonFocusRect, &option, this));
 }
 
 } // namespace tumble

@@ -4,6 +4,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+class QStyleOptionButton;
+class QStylePainter;
+
 namespace tumble {
 
 /// An option button whose caption wraps, and which is selected by a click anywhere in its place.
@@ -37,13 +40,23 @@ private:
     int captionHeight_ = 0;
 };
 
-/// A button that shows its icon above its caption.
-class IconAboveButton : public QPushButton {
+/// A button that has a frame around it when it is the default one, in every style.
+class FormButton : public QPushButton {
 public:
     using QPushButton::QPushButton;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    virtual void drawFace(QStylePainter& painter, const QStyleOptionButton& option) const;
+};
+
+/// A button that shows its icon above its caption.
+class IconAboveButton : public FormButton {
+public:
+    using FormButton::FormButton;
+
+protected:
+    void drawFace(QStylePainter& painter, const QStyleOptionButton& option) const override;
 };
 
 } // namespace tumble

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QSlider>
 #include <QWindow>
 #include <QtMath>
@@ -56,6 +57,7 @@ bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+constexpr int darkerBeside = 120;      // percent
 constexpr QSize buttonMargin(8, 4);    // logical pixels
 constexpr int iconSize = 32;           // logical pixels at scale 1
 constexpr int frameCaptionHeight = 16; // likewise
@@ -239,7 +241,7 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
         widget = new IconAboveButton(parent);
         widget->setIcon(icon_);
     } else {
-        widget = new QPushButton(parent);
+        widget = new FormButton(parent);
     }
     widget->setDefault(button.pressedByEnter());
     enterButton_ = button.pressedByEnter() ? widget : enterButton_;
@@ -319,6 +321,19 @@ void FormWindow::fit(const Captions& captions) const {
     }
 }
 
+QRect FormWindow::contentPlace() const {
+    const QSize content = sizeAt(scale_);
+    const QSize margins = (size() - content) / 2;
+    return {QPoint(margins.width(), margins.height()), content};
+}
+
+// Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
+void FormWindow::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setClipRegion(QRegion(rect()) - contentPlace().adjusted(-1, -1, 1, 1));
+    painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
+}
+
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
     if (form_ != nullptr) {
         layOut();
@@ -328,12 +343,12 @@ void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
 void FormWindow::layOut() {
     scale_ = showable(std::min(width() / formSize_.width(), height() / formSize_.height()), pixelRatio(*this));
     style_.scale(scale_);
-    const QSize margins = (size() - sizeAt(scale_)) / 2;
+    const QPoint corner = contentPlace().topLeft();
     const auto pixel = [this](float twips) {
         return qFloor(static_cast<double>(twips) * scale_ / static_cast<double>(twipsPerPixel));
     };
     for (const auto& [widget, room] : placed_) {
-        const QPoint origin = widget->parent() == this ? QPoint(margins.width(), margins.height()) : QPoint();
+        const QPoint origin = widget->parent() == this ? corner : QPoint();
         const QPoint first(pixel(room.Left), pixel(room.Top));
         const QPoint end(pixel(room.Left + room.Width), pixel(room.Top + room.Height));
         widget->setGeometry(QRect(origin + first, origin + end - QPoint(1, 1)));

@@ -66,6 +66,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -82,6 +83,7 @@ private:
     QRect openingPlace() const;
     QSize sizeAt(double scale) const { return (formSize_ * scale).toSize(); }
     void layOut();
+    QRect contentPlace() const;
     void addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget, std::function<QSize()> room);
 
     /// Captions of one container that are alike, and so have one size.

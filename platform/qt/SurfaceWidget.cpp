@@ -1,5 +1,7 @@
 #include "platform/qt/SurfaceWidget.h"
 
+#include "platform/qt/Contrast.h"
+
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -21,7 +23,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setPen(QPen(visibleLine(palette().color(QPalette::Highlight), palette()), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 };

@@ -144,18 +144,26 @@ TEST_F(Windows, ControlsKeepTheirPlacesInEveryLanguage) {
     EXPECT_EQ(openDialog()->layoutDirection(), Qt::LeftToRight);
 }
 
-TEST_F(Windows, ThePreviewsLieOnTheWindowItselfInAnyPalette) {
-    const QPalette light = QApplication::palette();
-    openDialog();
-    for (const QPalette& palette : {light, darkPalette()}) {
+TEST_F(Windows, FramesAndGroundsFollowThePalette) {
+    const QPalette usual = QApplication::palette();
+    QWidget* dialog = openDialog();
+    dialog->resize(dialog->minimumWidth() * 2, dialog->minimumHeight());
+    QWidget* frame = control("Tumble Options", "fraCardOrder");
+    for (const QPalette& palette :
+         {usual, darkPalette(), QPalette(QColor(246, 245, 244)), QPalette(QColor(0, 0, 64))}) {
         QApplication::setPalette(palette);
         QCoreApplication::processEvents();
+        const QColor ground = palette.color(QPalette::Window);
+        const std::string where = "on " + ground.name().toStdString();
         for (const char* preview : {"pctCardSize", "pctBackDesign"}) {
-            const QImage shown = control("Tumble Options", preview)->grab().toImage();
-            EXPECT_EQ(shown.pixelColor(0, 0), palette.color(QPalette::Window)) << preview;
+            EXPECT_EQ(control("Tumble Options", preview)->grab().toImage().pixelColor(0, 0), ground) << where;
         }
+        EXPECT_GE(contrast(frame->grab({0, frame->height() / 2, 4, 1}).toImage()), 3) << where;
+        const QImage shown = dialog->grab().toImage();
+        EXPECT_LT(luminance(shown.pixel(0, 0)), luminance(ground.rgb())) << where;
+        EXPECT_EQ(shown.pixelColor(shown.width() / 2, 0), ground) << where;
     }
-    QApplication::setPalette(light);
+    QApplication::setPalette(usual);
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -200,16 +203,32 @@ TEST_F(Windows, AFingerDragsACardAsTheMouseDoes) {
     EXPECT_EQ(mainMod.pileTopLeft->numCards(), 1);
 }
 
-TEST_F(Windows, TheFocusShows) {
-    QWidget* dialog = openDialog();
-    dialog->setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
-    for (const char* name : {"cmdPlay", "cmdExit", "optCardNormal", "sldBackDesign", "pctCardSize", "pctBackDesign"}) {
-        QWidget* widget = control("Tumble Options", name);
-        dialog->setFocus();
-        const QImage without = picture(dialog);
-        widget->setFocus(Qt::TabFocusReason);
-        EXPECT_NE(picture(dialog), without) << name;
+TEST_F(Windows, TheFocusAndTheDefaultButtonShowInEveryStyle) {
+    const QString usual = QApplication::style()->name();
+    for (const QString& style : QStyleFactory::keys()) {
+        QApplication::setStyle(style);
+        frmTumbleOptions options({});
+        options.Show();
+        QWidget* dialog = window("Tumble Options");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+        dialog->setAttribute(Qt::WA_KeyboardFocusChange); // as Tab does
+        for (const char* name :
+             {"cmdPlay", "cmdExit", "optCardNormal", "sldBackDesign", "pctCardSize", "pctBackDesign"}) {
+            QWidget* widget = control("Tumble Options", name);
+            dialog->setFocus();
+            const QImage without = picture(dialog);
+            widget->setFocus(Qt::TabFocusReason);
+            EXPECT_NE(picture(dialog), without) << name << " in " << style.toStdString();
+        }
+        for (const char* name : {"cmdPlay", "cmdExit"}) {
+            auto* button = qobject_cast<QPushButton*>(control("Tumble Options", name));
+            const QImage before = picture(button);
+            button->setDefault(!button->isDefault());
+            EXPECT_NE(picture(button), before) << name << " in " << style.toStdString();
+        }
+        options.Unload();
     }
+    QApplication::setStyle(usual);
 }
 
 TEST(PictureCacheTest, FallsBackToWhatCanBeShown) {
