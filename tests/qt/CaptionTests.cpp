@@ -113,9 +113,12 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
             game.options().optDeck24Card.Select(); // the longest description
             expectCaptionsFit(dialog);
         }
+        EXPECT_TRUE(dialog->findChild<QWidget*>("fraCardSize")->font().bold());
         game.options().cmdPlay.Click();
         frmAbout about;
         about.Show();
+        const auto points = [](const char* name) { return control("About Tumble", name)->font().pointSizeF(); };
+        EXPECT_GT(points("lblTitle"), 1.5 * points("lblVersion"));
         for (const double scale : {4.0, 3.0, 2.5, 2.0, 1.75, 1.5, 1.25, 1.0, 0.85, 0.75}) {
             QApplication::setPalette(scale == 1.25 ? darkPalette() : light);
             resizeTo(scale, window("Tumble"));

@@ -83,9 +83,9 @@ class WindowTest(unittest.TestCase):
         listener.register("window")
         self.addCleanup(listener.deregister, "window")
         game = self.start_table()
-        for button, title in (("Help", "Tumble Instructions"), ("About", "About Tumble")):
+        for button, letter, title in (("Help", "alt+h", "Tumble Instructions"), ("About", "alt+a", "About Tumble")):
             for way in ("OK", "Return", "Escape", "alt+F4"):
-                game.press(button)
+                game.press(button) if way == "OK" else game.key(letter)
                 game.in_front(title)
                 self.close(game, way)
                 game.in_front("Tumble")
