@@ -27,10 +27,16 @@ void drawFocus(QPainter& painter, const QStyleOptionButton& option, const QRect&
 
 } // namespace
 
+// Styles place the mark by a size of their own, whatever size they are asked to give it.
+QRect WrappingRadioButton::markPlace() const {
+    const QSize size(style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this),
+                     style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, nullptr, this));
+    return {QPoint(0, (height() - size.height()) / 2), size};
+}
+
 QRect WrappingRadioButton::captionRoom() const {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    return style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
+    return rect().adjusted(
+        markPlace().width() + style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this), 0, 0, 0);
 }
 
 void WrappingRadioButton::paintEvent(QPaintEvent* /*event*/) {
@@ -41,10 +47,10 @@ void WrappingRadioButton::paintEvent(QPaintEvent* /*event*/) {
     constexpr int flags = captionFlags | Qt::AlignLeft | Qt::AlignVCenter;
     const QRect caption = painter.fontMetrics().boundingRect(room, flags, text());
 
-    QStyleOptionButton indicator = option;
-    indicator.text.clear();
-    indicator.state.setFlag(QStyle::State_HasFocus, false);
-    painter.drawControl(QStyle::CE_RadioButton, indicator);
+    QStyleOptionButton mark = option;
+    mark.rect = markPlace();
+    mark.state.setFlag(QStyle::State_HasFocus, false);
+    painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, mark);
     painter.drawItemText(room, flags, palette(), isEnabled(), text(), QPalette::WindowText);
     drawFocus(painter, option, caption.adjusted(-2, -1, 2, 1).intersected(rect()));
 }

@@ -20,6 +20,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     bool hitButton(const QPoint& place) const override;
+
+private:
+    QRect markPlace() const;
 };
 
 /// A group box whose caption breaks its upper line, so that the whole box below is its controls'.

@@ -2,7 +2,15 @@
 
 #include <QApplication>
 
+#include <algorithm>
+
 namespace tumble {
+
+namespace {
+
+constexpr int largestMark = 15; // pixels of the unscaled window, in which the narrowest rows are 16 apart
+
+} // namespace
 
 ScaledStyle::ScaledStyle() : QProxyStyle(QApplication::style()->name()) {}
 
@@ -11,6 +19,7 @@ int ScaledStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     switch (metric) {
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
+        return qRound(std::min(unscaled, largestMark) * scale_);
     case PM_RadioButtonLabelSpacing:
     case PM_SliderThickness:
     case PM_SliderControlThickness:
