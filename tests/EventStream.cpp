@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
-#include <set>
 
 namespace tumble {
 
@@ -22,21 +21,6 @@ struct Number {
         return static_cast<Set>(value);
     }
 };
-
-std::string withoutNames(std::string text) {
-    const auto replace = [&](const std::string& name) {
-        for (std::size_t at = 0; (at = text.find(name)) != std::string::npos;) {
-            text.replace(at, name.size(), "#");
-        }
-    };
-    for (int rank = rkTwo; rank <= rkAce; ++rank) {
-        replace(CardConstants::rankName(static_cast<CardRank>(rank)));
-    }
-    for (const CardSuit suit : {suDiamond, suClub, suHeart, suSpade}) {
-        replace(CardConstants::suitName(suit));
-    }
-    return text;
-}
 
 class Session {
 public:
@@ -188,10 +172,7 @@ private:
         // Operations may give a card on the table another kind.
         require(fault.empty() || (!game_ && fault == "what is neither a card nor a pile lies on the table"), fault);
         for (const auto& [text, caption] : table_.desktop.takeMessages()) {
-            static const std::set<std::string> ofAGame{
-                "CONGRATULATIONS!", "You must follow suit with a #", "You must play the lowest ranking card, a #",
-                "You must play either a # of #s or a Joker", "You must play either a # of #s or a # of #s or a Joker"};
-            require(!game_ || caption == "Tumble Instructions" || ofAGame.contains(withoutNames(text)), text);
+            require(!game_ || caption != "Tumble", text); // which reports a value outside its set
         }
     }
 
