@@ -83,6 +83,7 @@ TEST(CardTest, CardsPilesBlocksAndErasuresArePaintedStrokeByStroke) {
         crd->undraw();
         EXPECT_EQ(painted(), "fill 100.5,200 828.5,1333 blue");
     }
+    crd->setAsJoker();
     crd->setRankAndSuit(rkAce, suClub); // no joker any more
     EXPECT_EQ(crd->getStr(), "Ace of Clubs");
 }
