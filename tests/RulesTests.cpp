@@ -45,6 +45,7 @@ TEST_F(PileRulesTest, PileWithCardsIsBuiltUpInItsTopCardsSuit) {
         {seven, makeCard(rkSeven, suClub), "taken "},
         {seven, makeJoker(), "taken "},
         {seven, makeCard(rkEight, suSpade), "refused Invalid Move!: You must follow suit with a Club"},
+        {seven, makeCard(rkSix, suClub), either + "a Seven of Clubs or a Eight of Clubs or a Joker"},
         {seven, makeCard(rkNine, suSpade), either + "a Seven of Clubs or a Eight of Clubs or a Joker"}, // both faults
         {seven, makeCard(static_cast<CardRank>(65536 + 8), suClub), "taken "}, // the step between ranks has 16 bits
         {aceOfHearts, aceOfHearts, "taken "},
