@@ -149,7 +149,7 @@ TEST_F(DragTest, HandAndCardStayTogetherOnEveryWayOutOfTheTableAndBack) {
 
 TEST_F(DragTest, RandomWaysLoseNoCard) {
     std::mt19937 random(1);
-    const auto place = [&](unsigned size) {
+    const auto place = [&](std::size_t size) {
         return static_cast<float>(random() % (2 * size)) - static_cast<float>(size) / 2;
     };
     table.lay(rkFive, suHeart, 1000, 1000);

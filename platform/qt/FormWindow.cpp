@@ -31,26 +31,35 @@ QSizeF largestForm() {
     return unscaledSize(App.Width, App.Height);
 }
 
-// The place that a control's widget gets. An option button shows no border: its caption may use half of the space to
-// its neighbours above and below.
+constexpr float tallLabel = 600; // twips, as below: the caption of a higher one wraps
+constexpr float optionGap = 45;
+constexpr float mostToTheRight = 240;
 
-Place roomOf(const Control& control) {
+// The place that a control's widget gets in a container of the width. An option button shows no border: its caption may
+// use half of the space to its neighbours above and below, and some of that on its right.
+
+Place roomOf(const Control& control, float /*width*/) {
     return control.place();
 }
 
-Place roomOf(const OptionButton& option) {
-    Place room = option.place();
+Place roomOf(const OptionButton& option, float width) {
+    const Place room = option.place();
+    const float end = room.Left + room.Width;
     float free = room.Height;
+    float right = std::min(width - end - optionGap, mostToTheRight);
     for (const AnyControl& any : option.container().controls()) {
         const Control& other = *std::visit([](const Control* control) { return control; }, any);
-        const auto& [left, top, width, height] = other.place();
-        const bool sideways = left >= room.Left + room.Width || room.Left >= left + width;
+        const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
+        const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
+        const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;
+        if (gap < 0 && otherLeft > room.Left) {
+            right = std::min(right, otherLeft - end - optionGap);
+        }
         if (&other != &option && !sideways) {
-            const float gap = std::max(top - (room.Top + room.Height), room.Top - (top + height));
             free = std::clamp(gap, 0.0F, free);
         }
     }
-    return {room.Left, room.Top - free / 2, room.Width, room.Height + free};
+    return {room.Left, room.Top - free / 2, room.Width + std::max(right, 0.0F), room.Height + free};
 }
 
 bool isEnter(const QKeyEvent& event) {
@@ -89,7 +98,7 @@ FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before,
     }
     windowHandle()->installEventFilter(this);
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
-    buildControls(form, this);
+    buildControls(form, form.Width(), this);
     setTabOrderByIndex();
     layOut();
 }
@@ -204,13 +213,13 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void FormWindow::buildControls(const Container& container, QWidget* parent) {
+void FormWindow::buildControls(const Container& container, float width, QWidget* parent) {
     const auto add = [&](auto* control) {
         QWidget* widget = build(*control, parent);
         widget->setObjectName(QString::fromStdString(control->Name()));
         widget->setStyle(&style_);
         widget->installEventFilter(this);
-        placed_.push_back({widget, roomOf(*control)});
+        placed_.push_back({widget, roomOf(*control, width)});
         byTabIndex_.emplace(control->TabIndex(), widget);
     };
     for (const AnyControl& control : container.controls()) {
@@ -230,7 +239,8 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    addCaption(label, label.font, Wrap::Freely, widget, [widget] { return widget->size(); });
+    addCaption(label, label.font, label.place().Height < tallLabel ? Wrap::No : Wrap::Freely, widget,
+               [widget] { return widget->size(); });
     updates_.emplace(&label, [&label, widget] { widget->setText(QString::fromStdString(label.Caption())); });
     return widget;
 }
@@ -280,7 +290,7 @@ QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
         widget->captionHeight(qRound(frameCaptionHeight * scale_));
         widget->setTitle(QString::fromStdString(frame.Caption()));
     });
-    buildControls(frame, widget);
+    buildControls(frame, frame.place().Width, widget);
     return widget;
 }
 

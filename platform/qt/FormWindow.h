@@ -70,7 +70,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void buildControls(const Container& container, QWidget* parent);
+    void buildControls(const Container& container, float width, QWidget* parent); // width in twips
     QWidget* build(PictureBox& box, QWidget* parent);
     QWidget* build(Label& label, QWidget* parent);
     QWidget* build(CommandButton& button, QWidget* parent);

@@ -114,8 +114,8 @@ TEST_F(Windows, WhatShowsIsWhatWasPainted) {
     mouse(QTest::MouseMove, 5000, 5000);
     EXPECT_EQ(colourAt(600, 100), blue) << "a pile while a card is dragged";
     int leastGreen = 255; // where the circle of a marked card cuts a level line, it is red
-    for (float X = 3890; X < 3940; X += 5) {
-        leastGreen = std::min(leastGreen, qGreen(colourAt(X, 2959)));
+    for (int X = 3890; X < 3940; X += 5) {
+        leastGreen = std::min(leastGreen, qGreen(colourAt(static_cast<float>(X), 2959)));
     }
     EXPECT_LT(leastGreen, 128);
     mouse(QTest::MouseRelease, 5000, 5000, Qt::LeftButton);
