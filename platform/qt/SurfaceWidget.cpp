@@ -137,8 +137,8 @@ QRect SurfaceWidget::bringImageUpToDate() {
     const PixelRect part = anew ? all : scale.pixels(painting.changedSince(inImage_)).intersected(all);
     if (!part.empty()) {
         replay(painting.ground(), painting.items(), scale, part, pictures_, image_);
+        inImage_ = painting;
     }
-    inImage_ = painting;
     return toQRect(part);
 }
 
