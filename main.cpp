@@ -5,8 +5,9 @@
 
 int main() {
     const tumble::Display display;
-    tumble::QtDesktop desktop(tumble::application(),
-                              [](const auto& picture, QSize size) { return tumble::drawPicture(picture.Key, size); });
+    tumble::QtDesktop desktop(tumble::application(), [](const auto& picture, auto& canvas) {
+        return tumble::drawPicture(picture.Key, canvas);
+    });
     tumble::MainMod mainMod;
     mainMod.Main();
     desktop.run();

@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
+#include <memory>
+#include <string_view>
 
 namespace tumble {
 
@@ -19,56 +22,83 @@ constexpr double knotWidth = 4;
 constexpr double margin = 3;
 
 struct Colouring {
-    QRgb ground;
-    QRgb flower;
-    QRgb knot;
+    Colour ground;
+    Colour flower;
+    Colour knot;
 };
 
 constexpr std::array<Colouring, 4> colourings = {{
-    {qRgb(192, 192, 255), qRgb(0, 0, 255), qRgb(255, 255, 0)},
-    {qRgb(255, 255, 128), qRgb(128, 255, 255), qRgb(0, 255, 0)},
-    {qRgb(255, 128, 64), qRgb(255, 0, 128), qRgb(128, 64, 0)},
-    {qRgb(0, 255, 128), qRgb(128, 128, 0), qRgb(0, 128, 0)},
+    {rgb(192, 192, 255), rgb(0, 0, 255), rgb(255, 255, 0)},
+    {rgb(255, 255, 128), rgb(128, 255, 255), rgb(0, 255, 0)},
+    {rgb(255, 128, 64), rgb(255, 0, 128), rgb(128, 64, 0)},
+    {rgb(0, 255, 128), rgb(128, 128, 0), rgb(0, 128, 0)},
 }};
 
-// Each motif has its middle at the origin. The slanting edges run between the middles of the pixels of the smallest
-// rendition, so that they fall evenly.
+/// What a motif has in one colour. Its middle is the origin.
+struct Ink {
+    Path shape;
+    std::string_view quarter; ///< The pixels of the upper left quarter, for tiles of the smallest rendition.
+    Colour colour;
+};
 
 /// A flower of four petals with a leaf between each two.
-QPainterPath flower() {
-    const QPainterPath petal = completed(outline("M0 -1.5 L0.5 -1.5 L0.5 -2 L2.5 -4 L2.5 -5 L1 -6.5 L0 -6.5"));
-    const QPainterPath leaf = outline("M3.5 3.5 L5.5 3.5 L5.5 5.5 L3.5 5.5 Z");
-    QPainterPath path;
-    for (int turn = 0; turn < 4; ++turn) {
-        path.addPath(QTransform().rotate(90.0 * turn).map(petal));
-        path.addPath(QTransform().rotate(90.0 * turn).map(leaf));
+Path flower() {
+    const Path petal = completed(outline("M0 -1.5 L0.5 -1.5 L0.5 -2 L2.5 -4 L2.5 -5 L1 -6.5 L0 -6.5"));
+    const Path leaf = outline("M3.5 3.5 L5.5 3.5 L5.5 5.5 L3.5 5.5 Z");
+    constexpr Vec2 right{1, 0};
+    constexpr Vec2 down{0, 1};
+    Path path;
+    for (const Transform& turn : {Transform{right, down, {}}, Transform{down, -right, {}}, Transform{-right, -down, {}},
+                                  Transform{-down, right, {}}}) {
+        path.add(petal.mapped(turn));
+        path.add(leaf.mapped(turn));
     }
     return path;
 }
 
+constexpr std::string_view flowerQuarter = "........"
+                                           "......##"
+                                           "..##.###"
+                                           "..##.###"
+                                           "......##"
+                                           "..##...#"
+                                           ".####..."
+                                           ".#####..";
+
 /// The heart of a flower.
-QPainterPath heart() {
+Path heart() {
     return outline("M0 -1.5 L1.5 0 L0 1.5 L-1.5 0 Z");
 }
 
+constexpr std::string_view heartQuarter = "........"
+                                          "........"
+                                          "........"
+                                          "........"
+                                          "........"
+                                          "........"
+                                          ".......#"
+                                          "......##";
+
 /// A knot where four tiles meet.
-QPainterPath knot() {
+Path knot() {
     return outline("M-0.5 -2 L0.5 -2 L2 -0.5 L2 0.5 L0.5 2 L-0.5 2 L-2 0.5 L-2 -0.5 Z");
 }
 
+constexpr std::string_view knotQuarter = ".#"
+                                         "##";
+
+PixelRect upperLeftQuarter(const Canvas& canvas) {
+    return {.left = 0, .top = 0, .right = (canvas.size().width - 1) / 2, .bottom = (canvas.size().height - 1) / 2};
+}
+
 /// Copies the upper left quarter to the others. In a back, neither a mirror nor a half turn then shows.
-void unfold(QImage& image) {
-    const int width = image.width();
-    const int height = image.height();
-    for (int y = 0; y < height; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        if (y >= (height + 1) / 2) {
-            std::copy_n(reinterpret_cast<const QRgb*>(image.constScanLine(height - 1 - y)), width, line);
-        }
-        for (int x = (width + 1) / 2; x < width; ++x) {
-            line[x] = line[width - 1 - x];
-        }
-    }
+void unfold(Canvas& canvas) {
+    const auto [width, height] = canvas.size();
+    PixelRect half = upperLeftQuarter(canvas);
+    half.right = width / 2 - 1;
+    canvas.draw(canvas, half, {(width + 1) / 2, 0}, Turn::Mirrored);
+    canvas.draw(canvas, {.left = 0, .top = 0, .right = width - 1, .bottom = height / 2 - 1}, {0, (height + 1) / 2},
+                Turn::UpsideDown);
 }
 
 /// How many pixels a tile takes of a side of the card. A strip of an odd number of tiles has a tile in the middle of
@@ -80,57 +110,54 @@ int pitch(int side, int tiles, double units) {
     return hasMiddle ? (fitting - 1) / 2 * 2 + 1 : fitting;
 }
 
-struct Ink {
-    QPainterPath shape;
-    QRgb colour;
-};
-
-/// A motif on a transparent ground, for tiles of a size in pixels. It is smoothed where the tiles are not those for
-/// which its pixels were chosen.
-QImage motif(std::initializer_list<Ink> inks, QSize size, QSize tilePixels) {
-    QImage image(size.expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing, tilePixels != QSize(tile, tile));
-    painter.translate(image.width() / 2.0, image.height() / 2.0);
-    painter.scale(tilePixels.width() / double{tile}, tilePixels.height() / double{tile});
-    for (const Ink& ink : inks) {
-        painter.fillPath(ink.shape, QColor(ink.colour));
+/// A motif on a transparent ground, for tiles of a size in pixels: of whole pixels where the tiles are those for which
+/// these were chosen.
+std::unique_ptr<Canvas> motif(const Canvas& like, std::initializer_list<Ink> inks, PixelSize size, PixelSize tiles) {
+    auto image = like.another({std::max(1, size.width), std::max(1, size.height)}, {});
+    const PixelRect quarter = upperLeftQuarter(*image);
+    const Transform toPixels = Transform()
+                                   .moved({image->size().width / 2.0, image->size().height / 2.0})
+                                   .scaled(tiles.width / double{tile}, tiles.height / double{tile});
+    image->clip(quarter);
+    for (const auto& [shape, pixels, colour] : inks) {
+        if (tiles == PixelSize{tile, tile}) {
+            paintPixels(*image, pixels, quarter, colour);
+        } else {
+            image->fill(shape, toPixels, colour);
+        }
     }
-    painter.end();
-    unfold(image);
+    image->clip(image->bounds());
+    unfold(*image);
     return image;
 }
 
 } // namespace
 
-QImage drawBack(int colouring, QSize size) {
-    const Colouring& colours = colourings.at(static_cast<std::size_t>(colouring));
-    const QSize step(pitch(size.width(), columns, cardWidth), pitch(size.height(), rows, cardHeight));
-    const QSize knotHalf(static_cast<int>(std::ceil(step.width() * knotWidth / tile / 2)),
-                         static_cast<int>(std::ceil(step.height() * knotWidth / tile / 2)));
-    const QImage flowers = motif({{flower(), colours.flower}, {heart(), colours.knot}}, step, step);
-    const QImage knots = motif({{knot(), colours.knot}}, knotHalf * 2, step);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colours.ground);
-    QPainter painter(&image);
-    const QSize rest = size - QSize(step.width() * columns, step.height() * rows);
-    painter.translate(QPoint(rest.width() / 2, rest.height() / 2));
+void drawBack(int colouring, Canvas& canvas) {
+    const auto [width, height] = canvas.size();
+    const auto& [ground, flowerColour, knotColour] = colourings.at(static_cast<std::size_t>(colouring));
+    const PixelSize step{pitch(width, columns, cardWidth), pitch(height, rows, cardHeight)};
+    const PixelSize knotHalf{static_cast<int>(std::ceil(step.width * knotWidth / tile / 2)),
+                             static_cast<int>(std::ceil(step.height * knotWidth / tile / 2))};
+    const auto flowers =
+        motif(canvas, {{flower(), flowerQuarter, flowerColour}, {heart(), heartQuarter, knotColour}}, step, step);
+    const auto knots =
+        motif(canvas, {{knot(), knotQuarter, knotColour}}, {knotHalf.width * 2, knotHalf.height * 2}, step);
+    const PixelPoint first{(width - step.width * columns) / 2, (height - step.height * rows) / 2};
+    canvas.fill(canvas.bounds(), ground);
     for (int row = 0; row <= rows / 2; ++row) {
         for (int column = 0; column <= columns / 2; ++column) {
-            const QPoint corner(column * step.width(), row * step.height());
-            painter.drawImage(corner, flowers);
-            painter.drawImage(corner - QPoint(knotHalf.width(), knotHalf.height()), knots);
+            const PixelPoint corner{first.x + column * step.width, first.y + row * step.height};
+            canvas.draw(*flowers, flowers->bounds(), corner);
+            canvas.draw(*knots, knots->bounds(), {corner.x - knotHalf.width, corner.y - knotHalf.height});
         }
     }
-    painter.end();
-    unfold(image);
-    return image;
+    unfold(canvas);
 }
 
-std::vector<QRgb> backColours(int colouring) {
-    const Colouring& colours = colourings.at(static_cast<std::size_t>(colouring));
-    return {colours.ground, colours.flower, colours.knot};
+std::vector<Colour> backColours(int colouring) {
+    const auto& [ground, flowerColour, knotColour] = colourings.at(static_cast<std::size_t>(colouring));
+    return {ground, flowerColour, knotColour};
 }
 
 } // namespace tumble

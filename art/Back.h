@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QImage>
+#include "platform/Canvas.h"
 
 #include <vector>
 
 namespace tumble {
 
-/// Draws the back of a card, in one of the colourings from 0 to 3, with no colours but its three.
-QImage drawBack(int colouring, QSize size);
+/// Draws the back of a card that fills a canvas, in one of the colourings from 0 to 3, with no colours but its three.
+void drawBack(int colouring, Canvas& canvas);
 
 /// The three colours of a back: the ground and those of the two motifs.
-std::vector<QRgb> backColours(int colouring);
+std::vector<Colour> backColours(int colouring);
 
 } // namespace tumble

@@ -30,7 +30,7 @@ struct Costume {
 
 /// Of what colour a figure's hair is, what it wears on its head and what it holds in its hand.
 struct Regalia {
-    QRgb hair;
+    Colour hair;
     std::span<const Piece> headgear;
     std::span<const Piece> attribute;
 };
@@ -78,8 +78,8 @@ constexpr std::array<Regalia, 12> regalia = {{
 }};
 
 /// The distances of the frame's outer edge from the edges of the card.
-constexpr QSizeF frameInset(12, 6);
-constexpr QSizeF pipSize(12, 13);
+constexpr Vec2 frameInset{12, 6};
+constexpr Box pipBox{{}, 12, 13};
 
 /// How far to the right of the middle the hand is.
 constexpr double handX = 20;
@@ -89,56 +89,64 @@ constexpr double sashHalfWidth = 28;
 constexpr double sashFall = 6;
 constexpr double sashHalfHeight = 2.4;
 
-void paintFigure(QPainter& painter, const Body& body, const Costume& costume, const Regalia& worn) {
-    const Wardrobe wardrobe = dressed(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
-    paintPieces(painter, body.robe, wardrobe);
-    painter.translate(handX, 0);
-    paintPieces(painter, worn.attribute, wardrobe);
-    painter.translate(-handX, 0);
-    paintPieces(painter, arm, wardrobe);
-    paintPieces(painter, body.locks, wardrobe);
-    paintPieces(painter, face, wardrobe);
-    paintPieces(painter, body.forelocks, wardrobe);
-    paintPieces(painter, worn.headgear, wardrobe);
+PixelRect inset(const PixelRect& block, int across, int down) {
+    return {.left = block.left + across,
+            .top = block.top + down,
+            .right = block.right - across,
+            .bottom = block.bottom - down};
 }
 
-void paintSash(QPainter& painter, const Fabric& fabric) {
-    const QPointF fall(sashHalfWidth, sashFall);
-    const QPointF half(0, sashHalfHeight);
-    QPainterPath sash;
-    sash.addPolygon(QPolygonF{-fall - half, fall - half, fall + half, -fall + half});
-    sash.closeSubpath();
-    paintFabric(painter, sash, fabric);
+void paintSash(const Drawing& drawing, const Fabric& fabric) {
+    constexpr Vec2 fall{sashHalfWidth, sashFall};
+    constexpr Vec2 half{0, sashHalfHeight};
+    Path sash;
+    sash.moveTo(-fall - half);
+    sash.lineTo(fall - half);
+    sash.lineTo(fall + half);
+    sash.lineTo(-fall + half);
+    sash.close();
+    paintFabric(drawing, sash, fabric);
+}
+
+void paintFigure(Drawing drawing, const Body& body, const Costume& costume, const Regalia& worn) {
+    const Wardrobe wardrobe = dressed(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
+    paintPieces(drawing, body.robe, wardrobe);
+    drawing.toPixels = drawing.toPixels.moved({handX, 0});
+    paintPieces(drawing, worn.attribute, wardrobe);
+    drawing.toPixels = drawing.toPixels.moved({-handX, 0});
+    paintPieces(drawing, arm, wardrobe);
+    paintPieces(drawing, body.locks, wardrobe);
+    paintPieces(drawing, face, wardrobe);
+    paintPieces(drawing, body.forelocks, wardrobe);
+    paintPieces(drawing, worn.headgear, wardrobe);
+    paintSash(drawing, costume.sash);
 }
 
 } // namespace
 
-void paintCourt(QPainter& painter, int rank, Suit suit) {
+void paintCourt(const Drawing& drawing, int rank, Suit suit) {
     const auto court = static_cast<std::size_t>(rank - firstCourtRank);
     const std::size_t figure = court * suitCount + static_cast<std::size_t>(suit);
-    const QRect card = fitted(painter, QRectF(0, 0, cardWidth, cardHeight));
-    const QRectF unit = painter.transform().mapRect(QRectF(0, 0, 1, 1));
-    const int line = std::max(1, static_cast<int>(std::lround(unit.width())));
-    const int left = static_cast<int>(std::ceil(frameInset.width() * unit.width()));
-    const int top = static_cast<int>(std::lround(frameInset.height() * unit.height()));
-    const QRect frame = card.adjusted(left, top, -left, -top);
-    const QRect inside = frame.adjusted(line, line, -line, -line);
+    const double unitWidth = drawing.toPixels.right.x;
+    const double unitHeight = drawing.toPixels.down.y;
+    const int line = std::max(1, static_cast<int>(std::lround(unitWidth)));
+    const int across = static_cast<int>(std::ceil(frameInset.x * unitWidth));
+    const int down = static_cast<int>(std::lround(frameInset.y * unitHeight));
+    const PixelRect frame = inset(fitted(drawing, wholeCard), across, down);
+    const PixelRect inside = inset(frame, line, line);
 
-    painter.save();
-    painter.setClipRect(painter.transform().inverted().mapRect(QRectF(inside)));
-    painter.translate(cardWidth / 2, cardHeight / 2);
-    paintFigure(painter, bodies.at(court), costumes.at(figure), regalia.at(figure));
-    paintSash(painter, costumes.at(figure).sash);
-    painter.resetTransform();
-    painter.setClipRegion(QRegion(frame) - inside);
-    painter.fillRect(frame, QColor(black));
-    painter.restore();
-    const QSize pip = fitted(painter, QRectF({0, 0}, pipSize)).size();
-    paintSuit(painter, suit, QRect(inside.topLeft() + QPoint(line, line * 2), pip));
+    Canvas& canvas = drawing.canvas;
+    canvas.clip(inside);
+    paintFigure(drawing.moved(wholeCard.centre()), bodies.at(court), costumes.at(figure), regalia.at(figure));
+    canvas.clip(canvas.bounds());
+    for (const PixelRect& side : boxSides(frame, line)) {
+        canvas.fill(side, black);
+    }
+    paintSuit(canvas, suit, fitted(drawing, pipBox).size().at({inside.left + line, inside.top + 2 * line}));
 }
 
-double courtFall(QSize size) {
-    return sashFall * size.height() / cardHeight / (sashHalfWidth * size.width() / cardWidth);
+double courtFall(PixelSize size) {
+    return sashFall * size.height / cardHeight / (sashHalfWidth * size.width / cardWidth);
 }
 
 } // namespace tumble

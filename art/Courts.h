@@ -1,8 +1,7 @@
 #pragma once
 
+#include "art/Drawing.h"
 #include "art/Symbols.h"
-
-#include <QPainter>
 
 namespace tumble {
 
@@ -10,9 +9,9 @@ namespace tumble {
 inline constexpr int firstCourtRank = 11;
 
 /// Paints the upper half of the double-headed figure of a jack, queen or king in its frame, and some of the lower.
-void paintCourt(QPainter& painter, int rank, Suit suit);
+void paintCourt(const Drawing& drawing, int rank, Suit suit);
 
 /// By how much the line on which the halves meet falls to the right, in a picture of that size.
-double courtFall(QSize size);
+double courtFall(PixelSize size);
 
 } // namespace tumble

@@ -1,7 +1,5 @@
 #include "art/Figure.h"
 
-#include "art/Outline.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +12,7 @@ constexpr double lineWidth = 0.7;
 
 /// A mark of a pattern, and the steps from one to the next; every other row is shifted by half a step.
 struct Repeat {
-    const char* mark;
+    Outline mark;
     double stepX;
     double stepY;
 };
@@ -37,64 +35,63 @@ Repeat repeatOf(Weave weave) {
     return {"", 4, 4};
 }
 
-/// The fabric as a texture that repeats in whole pixels, laid out from the painter's origin.
-QBrush woven(const QPainter& painter, const Fabric& fabric) {
-    const Repeat repeat = repeatOf(fabric.weave);
-    const QTransform& toPixels = painter.transform();
+/// Fills a shape with a fabric whose pattern repeats in whole pixels, laid out from the drawing's origin.
+void fillWoven(const Drawing& drawing, const Path& shape, const Fabric& fabric) {
+    const auto& [mark, stepX, stepY] = repeatOf(fabric.weave);
+    const Transform& toPixels = drawing.toPixels;
     const auto steps = [](double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); };
-    const int halfX = steps(std::abs(toPixels.m11()) * repeat.stepX / 2);
-    const int stepY = steps(toPixels.m22() * repeat.stepY);
-    const QPoint corner(static_cast<int>(std::floor(toPixels.dx())), static_cast<int>(std::floor(toPixels.dy())));
+    const int halfWidth = steps(std::abs(toPixels.right.x) * stepX / 2);
+    const int halfHeight = steps(toPixels.down.y * stepY);
+    const PixelPoint corner{static_cast<int>(std::floor(toPixels.origin.x)),
+                            static_cast<int>(std::floor(toPixels.origin.y))};
 
-    QImage texture(halfX * 2, stepY * 2, QImage::Format_RGB32);
-    texture.fill(fabric.ground);
-    QPainter weaver(&texture);
-    weaver.setRenderHint(QPainter::Antialiasing);
+    const auto texture = drawing.canvas.another({halfWidth * 2, halfHeight * 2}, fabric.ground);
     // A stripe takes a quarter of the texture; its left edge lies on a whole pixel.
-    const double left = fabric.weave == Weave::Stripes ? halfX / 4.0 : toPixels.dx() - corner.x();
-    weaver.translate(left, toPixels.dy() - corner.y());
-    weaver.scale(halfX * 2 / repeat.stepX, stepY / repeat.stepY);
-    const QPainterPath mark = outline(repeat.mark);
+    const double left = fabric.weave == Weave::Stripes ? halfWidth / 4.0 : toPixels.origin.x - corner.x;
+    const Drawing weaver =
+        Drawing{*texture}.moved({left, toPixels.origin.y - corner.y}).scaled(halfWidth * 2 / stepX, halfHeight / stepY);
+    const Path path = outline(mark);
     for (int row = -2; row <= 3; ++row) {
-        const double shift = row % 2 == 0 ? 0 : repeat.stepX / 2;
+        const double shift = row % 2 == 0 ? 0 : stepX / 2;
         for (int column = -1; column <= 1; ++column) {
-            weaver.fillPath(mark.translated(column * repeat.stepX + shift, row * repeat.stepY), QColor(fabric.thread));
+            const Drawing place = weaver.moved({column * stepX + shift, row * stepY});
+            place.canvas.fill(path, place.toPixels, fabric.thread);
         }
     }
-    weaver.end();
-    QBrush brush(texture);
-    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toPixels.inverted());
-    return brush;
+    drawing.canvas.fill(shape, toPixels, *texture, corner);
 }
 
 } // namespace
 
-void paintFabric(QPainter& painter, const QPainterPath& shape, const Fabric& fabric) {
-    const bool isPlain = fabric.weave == Weave::Plain;
-    painter.fillPath(shape, isPlain ? QBrush(QColor(fabric.ground)) : woven(painter, fabric));
-    painter.strokePath(shape, QPen(QColor(black), outlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+void paintFabric(const Drawing& drawing, const Path& shape, const Fabric& fabric) {
+    if (fabric.weave == Weave::Plain) {
+        drawing.canvas.fill(shape, drawing.toPixels, fabric.ground);
+    } else {
+        fillWoven(drawing, shape, fabric);
+    }
+    drawing.canvas.stroke(shape, drawing.toPixels, {black, outlineWidth});
 }
 
-void paintPieces(QPainter& painter, std::span<const Piece> pieces, const Wardrobe& wardrobe) {
+void paintPieces(const Drawing& drawing, std::span<const Piece> pieces, const Wardrobe& wardrobe) {
     for (const Piece& piece : pieces) {
         const Fabric& fabric = wardrobe.at(static_cast<std::size_t>(piece.cloth));
-        const QPainterPath path = outline(piece.outline);
-        const QPen pen(QColor(fabric.ground), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+        const Path path = outline(piece.outline);
+        const Pen pen{fabric.ground, lineWidth};
         switch (piece.form) {
         case Form::Twins:
-            paintFabric(painter, mirrored(path), fabric);
+            paintFabric(drawing, mirrored(path), fabric);
             [[fallthrough]];
         case Form::Single:
-            paintFabric(painter, path, fabric);
+            paintFabric(drawing, path, fabric);
             break;
         case Form::Whole:
-            paintFabric(painter, completed(path), fabric);
+            paintFabric(drawing, completed(path), fabric);
             break;
         case Form::Lines:
-            painter.strokePath(mirrored(path), pen);
+            drawing.canvas.stroke(mirrored(path), drawing.toPixels, pen);
             [[fallthrough]];
         case Form::Line:
-            painter.strokePath(path, pen);
+            drawing.canvas.stroke(path, drawing.toPixels, pen);
             break;
         }
     }

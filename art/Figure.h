@@ -1,10 +1,11 @@
 #pragma once
 
+#include "art/Drawing.h"
 #include "art/Ink.h"
-
-#include <QPainter>
+#include "art/Outline.h"
 
 #include <array>
+#include <cstddef>
 #include <span>
 
 namespace tumble {
@@ -13,9 +14,9 @@ namespace tumble {
 enum class Weave { Plain, Stripes, Lozenges, Dots, Chevrons, Ermine };
 
 struct Fabric {
-    QRgb ground = white;
+    Colour ground = white;
     Weave weave = Weave::Plain;
-    QRgb thread = black;
+    Colour thread = black;
 };
 
 /// What a piece of a figure is made of: four plain inks, ermine, and what differs from figure to figure.
@@ -26,9 +27,9 @@ inline constexpr std::size_t clothCount = 11;
 using Wardrobe = std::array<Fabric, clothCount>;
 
 /// The wardrobe of a figure; its curls are drawn in black, or in white on black hair.
-constexpr Wardrobe dressed(QRgb hair, Fabric mantle, Fabric front, Fabric sleeve, Fabric trim) {
+constexpr Wardrobe dressed(Colour hair, Fabric mantle, Fabric front, Fabric sleeve, Fabric trim) {
     const Fabric fur{white, Weave::Ermine, black};
-    const QRgb curl = hair == black ? white : black;
+    const Colour curl = hair == black ? white : black;
     return {{{black}, {red}, {yellow}, {white}, fur, {hair}, {curl}, mantle, front, sleeve, trim}};
 }
 
@@ -45,12 +46,12 @@ enum class Form {
 struct Piece {
     Cloth cloth;
     Form form;
-    const char* outline;
+    Outline outline;
 };
 
-void paintPieces(QPainter& painter, std::span<const Piece> pieces, const Wardrobe& wardrobe);
+void paintPieces(const Drawing& drawing, std::span<const Piece> pieces, const Wardrobe& wardrobe);
 
 /// Fills a shape with a fabric and draws its outline.
-void paintFabric(QPainter& painter, const QPainterPath& shape, const Fabric& fabric);
+void paintFabric(const Drawing& drawing, const Path& shape, const Fabric& fabric);
 
 } // namespace tumble

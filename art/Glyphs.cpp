@@ -15,7 +15,7 @@ constexpr double designWidth = 8;
 constexpr double designHeight = 13;
 constexpr double designPen = 2;
 
-const char* glyphLine(char character) {
+Outline glyphLine(char character) {
     switch (character) {
     case 'A':
         return "M0 16 L4 0.6 L8 16 M2 9 L6 9";
@@ -55,7 +55,7 @@ const char* glyphLine(char character) {
     case 'R':
         return "M1 13 L1 1 L4 1 C6 1 7 2.2 7 4 C7 5.8 6 7 4 7 L1 7 M4 7 L7.6 14";
     default:
-        qFatal("The index has no '%c'", character);
+        return "";
     }
 }
 
@@ -93,39 +93,33 @@ private:
 };
 
 /// Tells the fits of the upright and level strokes: straight ones, and the outermost places of the curves.
-void fitStrokes(const QPainterPath& design, Fit& across, Fit& down) {
-    for (int i = 1; i < design.elementCount(); ++i) {
-        const QPainterPath::Element& from = design.elementAt(i - 1);
-        const QPainterPath::Element& to = design.elementAt(i);
-        const bool endsHere =
-            i + 1 == design.elementCount() || design.elementAt(i + 1).type != QPainterPath::CurveToDataElement;
-        if (to.type == QPainterPath::MoveToElement || !endsHere) {
-            continue;
+void fitStrokes(const Path& design, Fit& across, Fit& down) {
+    Vec2 last;
+    for (const auto& [verb, to, bends] : design.steps()) {
+        const Vec2 from = verb == Path::Verb::Curve ? bends[1] : last;
+        if (verb == Path::Verb::Line || verb == Path::Verb::Curve) {
+            if (from.x == to.x) {
+                across.stroke(to.x);
+            }
+            if (from.y == to.y) {
+                down.stroke(to.y);
+            }
         }
-        if (from.x == to.x) {
-            across.stroke(to.x);
-        }
-        if (from.y == to.y) {
-            down.stroke(to.y);
-        }
+        last = to;
     }
 }
 
 } // namespace
 
-Glyph glyph(char character, QSize size) {
+Glyph glyph(char character, PixelSize size) {
     // Pen and gaps of the ten take the whole width, so that nothing is left for rounding up.
-    const double exactPen = size.width() * designPen / designWidth;
+    const double exactPen = size.width * designPen / designWidth;
     const int pen = std::max(1, static_cast<int>(character == '0' ? exactPen : std::round(exactPen)));
-    QPainterPath line = outline(glyphLine(character));
-    Fit across(designWidth, size.width(), pen);
-    Fit down(designHeight, size.height(), pen);
-    fitStrokes(line, across, down);
-    for (int i = 0; i < line.elementCount(); ++i) {
-        const QPainterPath::Element& place = line.elementAt(i);
-        line.setElementPositionAt(i, across(place.x), down(place.y));
-    }
-    return {line, pen};
+    const Path design = outline(glyphLine(character));
+    Fit across(designWidth, size.width, pen);
+    Fit down(designHeight, size.height, pen);
+    fitStrokes(design, across, down);
+    return {design.mapped(across, down), pen};
 }
 
 } // namespace tumble

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QPainterPath>
-#include <QSize>
+#include "platform/Path.h"
+#include "platform/Pixels.h"
 
 namespace tumble {
 
@@ -9,11 +9,11 @@ namespace tumble {
 /// The pen is a whole number of pixels wide, and the upright and level strokes lie on whole pixels.
 /// Some strokes run over the edge of the box, where they are to be cut straight.
 struct Glyph {
-    QPainterPath line;
+    Path line;
     int pen;
 };
 
 /// The glyph that fills a box of that size, whose upper left corner is the origin.
-Glyph glyph(char character, QSize size);
+Glyph glyph(char character, PixelSize size);
 
 } // namespace tumble

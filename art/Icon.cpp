@@ -13,10 +13,10 @@ namespace {
 
 constexpr double boxWidth = 14;
 constexpr std::array suits = {
-    std::pair(Suit::Hearts, QRectF(1, 1, boxWidth, boxWidth)),
-    std::pair(Suit::Clubs, QRectF(17, 1, boxWidth, boxWidth)),
-    std::pair(Suit::Spades, QRectF(1, 17, boxWidth, boxWidth)),
-    std::pair(Suit::Diamonds, QRectF(17, 17, boxWidth, boxWidth)),
+    std::pair(Suit::Hearts, Vec2{1, 1}),
+    std::pair(Suit::Clubs, Vec2{17, 1}),
+    std::pair(Suit::Spades, Vec2{1, 17}),
+    std::pair(Suit::Diamonds, Vec2{17, 17}),
 };
 
 int inPixels(double length, int side) {
@@ -34,28 +34,23 @@ int along(double place, int side) {
 std::vector<Shape> iconShapes() {
     std::vector<Shape> shapes;
     shapes.reserve(suits.size());
-    for (const auto& [suit, box] : suits) {
-        shapes.push_back({suitSymbol(suit, box), suitColour(suit)});
+    for (const auto& [suit, corner] : suits) {
+        shapes.push_back({suitSymbol(suit, {corner, boxWidth, boxWidth}), suitColour(suit)});
     }
     return shapes;
 }
 
-QImage drawIcon(QSize size, QColor ground) {
-    QImage icon(size, QImage::Format_ARGB32);
-    icon.fill(ground);
-    QPainter painter(&icon);
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (const auto& [suit, box] : suits) {
-        const QRect pixels(along(box.left(), size.width()), along(box.top(), size.height()),
-                           inPixels(box.width(), size.width()), inPixels(box.height(), size.height()));
-        paintSuit(painter, suit, pixels);
+void drawIcon(Canvas& canvas) {
+    const auto [width, height] = canvas.size();
+    const PixelSize size{inPixels(boxWidth, width), inPixels(boxWidth, height)};
+    for (const auto& [suit, corner] : suits) {
+        paintSuit(canvas, suit, size.at({along(corner.x, width), along(corner.y, height)}));
     }
-    return icon;
 }
 
-std::vector<QRgb> iconColours() {
+std::vector<Colour> iconColours() {
     constexpr std::size_t tableSize = 16;
-    std::vector<QRgb> colours = suitColours();
+    std::vector<Colour> colours = suitColours();
     colours.resize(tableSize, black);
     return colours;
 }

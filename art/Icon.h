@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QColor>
-#include <QPainterPath>
+#include "platform/Geometry.h"
+#include "platform/Path.h"
 
 #include <vector>
 
@@ -11,8 +11,8 @@ namespace tumble {
 inline constexpr int iconWidth = 32;
 
 struct Shape {
-    QPainterPath outline;
-    QRgb colour;
+    Path outline;
+    Colour colour;
 };
 
 /// What the icon consists of when it is large.

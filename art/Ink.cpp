@@ -1,24 +1,28 @@
 #include "art/Ink.h"
 
+#include <cstddef>
+
 namespace tumble {
 
 namespace {
 
 /// A mixture of black, red, yellow and white in the given parts.
-QRgb mixture(int blacks, int reds, int yellows, int whites) {
+Colour mixture(int blacks, int reds, int yellows, int whites) {
     const int parts = blacks + reds + yellows + whites;
-    const auto mixed = [&](int (*channel)(QRgb)) {
-        return (reds * channel(red) + yellows * channel(yellow) + whites * channel(white) + parts / 2) / parts;
+    const auto mixed = [&](std::size_t channel) {
+        const auto sum =
+            reds * channels(red)[channel] + yellows * channels(yellow)[channel] + whites * channels(white)[channel];
+        return (sum + parts / 2) / parts;
     };
-    return qRgb(mixed(qRed), mixed(qGreen), mixed(qBlue));
+    return rgb(mixed(0), mixed(1), mixed(2));
 }
 
 } // namespace
 
-std::vector<QRgb> faceColours() {
+std::vector<Colour> faceColours() {
     constexpr int parts = 9;
     constexpr int fineParts = 19;
-    std::vector<QRgb> colours;
+    std::vector<Colour> colours;
     for (int blacks = 0; blacks <= parts; ++blacks) {
         for (int reds = 0; blacks + reds <= parts; ++reds) {
             for (int yellows = 0; blacks + reds + yellows <= parts; ++yellows) {
@@ -33,9 +37,9 @@ std::vector<QRgb> faceColours() {
     return colours;
 }
 
-std::vector<QRgb> suitColours() {
+std::vector<Colour> suitColours() {
     constexpr int parts = 7;
-    std::vector<QRgb> colours = {white};
+    std::vector<Colour> colours = {white};
     for (int ink = 1; ink <= parts; ++ink) {
         colours.push_back(mixture(ink, 0, 0, parts - ink));
         colours.push_back(mixture(0, ink, 0, parts - ink));

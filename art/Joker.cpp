@@ -48,44 +48,41 @@ constexpr std::array cap = {
     Piece{White, Whole, "M0 -33.4 C4 -33.4 7 -33 9.6 -31.4 L8.8 -28 C6 -29.6 3 -30 0 -30"},
 };
 
-void paintFigure(QPainter& painter) {
+void paintFigure(const Drawing& drawing) {
     const Wardrobe right = dressed(yellow, {red}, {yellow}, {black, Weave::Lozenges, yellow}, {red});
     const Wardrobe left = dressed(yellow, {black, Weave::Lozenges, yellow}, {red}, {red}, {black});
-    painter.save();
-    painter.translate(cardWidth / 2, cardHeight / 2 + 4);
-    for (const Wardrobe& wardrobe : {left, right}) {
-        painter.scale(-1, 1);
-        paintPieces(painter, side, wardrobe);
-    }
-    painter.save();
-    painter.translate(0, 15);
-    paintPieces(painter, CourtBodies::face, right);
-    paintPieces(painter, grin, right);
-    painter.restore();
-    paintPieces(painter, cap, right);
-    painter.restore();
+    const Drawing figure = drawing.moved(wholeCard.centre() + Vec2{0, 4});
+    paintPieces(figure.scaled(-1, 1), side, left);
+    paintPieces(figure, side, right);
+    const Drawing head = figure.moved({0, 15});
+    paintPieces(head, CourtBodies::face, right);
+    paintPieces(head, grin, right);
+    paintPieces(figure, cap, right);
 }
 
 } // namespace
 
-void paintJokerMark(QPainter& painter) {
-    const QRect starPixels = fitted(painter, QRectF(2, 4, 8, 8));
-    QRect letterPixels = fitted(painter, QRectF(3, 14, 6, 8));
-    const int step = fitted(painter, QRectF(0, 0, 1, 10)).height();
-    letterPixels.moveLeft(std::max(2, letterPixels.left()));
-    painter.fillPath(painter.transform().inverted().map(star(starPixels)), QColor(red));
+void paintJokerMark(const Drawing& drawing) {
+    Canvas& canvas = drawing.canvas;
+    canvas.fill(star(toBox(fitted(drawing, {{2, 4}, 8, 8}))), {}, red);
+    const PixelRect first = fitted(drawing, {{3, 14}, 6, 8});
+    const int step = fitted(drawing, {{}, 1, 10}).height();
+    PixelPoint corner{std::max(2, first.left), first.top};
     for (const char letter : std::string_view("JOKER")) {
-        paintGlyph(painter, letter, letterPixels, black);
-        letterPixels.translate(0, step);
+        paintGlyph(canvas, letter, first.size().at(corner), black);
+        corner.y += step;
     }
 }
 
-void paintJester(QPainter& painter) {
-    paintFigure(painter);
-    paintSuit(painter, Suit::Clubs, fitted(painter, QRectF(13, 15, 11, 11)));
-    paintSuit(painter, Suit::Hearts, fitted(painter, QRectF(27, 7, 11, 11)));
-    paintSuit(painter, Suit::Spades, fitted(painter, QRectF(43, 7, 11, 11)));
-    paintSuit(painter, Suit::Diamonds, fitted(painter, QRectF(57, 15, 11, 11)));
+void paintJester(const Drawing& drawing) {
+    paintFigure(drawing);
+    const auto juggle = [&](Suit suit, Vec2 corner) {
+        paintSuit(drawing.canvas, suit, fitted(drawing, {corner, 11, 11}));
+    };
+    juggle(Suit::Clubs, {13, 15});
+    juggle(Suit::Hearts, {27, 7});
+    juggle(Suit::Spades, {43, 7});
+    juggle(Suit::Diamonds, {57, 15});
 }
 
 } // namespace tumble

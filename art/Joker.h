@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QPainter>
+#include "art/Drawing.h"
 
 namespace tumble {
 
 /// Paints the joker's mark in the upper left corner.
-void paintJokerMark(QPainter& painter);
+void paintJokerMark(const Drawing& drawing);
 
 /// Paints the jester, who juggles the suits.
-void paintJester(QPainter& painter);
+void paintJester(const Drawing& drawing);
 
 } // namespace tumble

@@ -12,66 +12,91 @@ namespace {
 
 // The index lies in the ten columns of pixels that a spread leaves to see, clear of the border and of the tenth.
 constexpr std::string_view indexGlyphs = "A234567890JQK";
-constexpr QRectF indexRankBox(2, 4, 8, 13);
-constexpr QRectF indexSuitBox(2, 20, 8, 10);
+constexpr Box indexRankBox{{2, 4}, 8, 13};
+constexpr Box indexSuitBox{{2, 20}, 8, 10};
 constexpr int leastLeft = 2;
 
 /// The width in pixels below which a suit's symbol is a small one.
 constexpr int smallBelow = 14;
 
 /// A box of the index in pixels: at no size does it touch the border of the card.
-QRect indexBox(const QPainter& painter, const QRectF& box) {
-    QRect pixels = fitted(painter, box);
-    pixels.moveLeft(std::max(leastLeft, pixels.left()));
-    return pixels;
+PixelRect indexBox(const Drawing& drawing, const Box& box) {
+    const PixelRect pixels = fitted(drawing, box);
+    return pixels.size().at({std::max(leastLeft, pixels.left), pixels.top});
 }
 
 } // namespace
 
-QRect fitted(const QPainter& painter, const QRectF& box) {
-    const QRectF exact = painter.transform().mapRect(box);
-    const QSize size = QSizeF(exact.size()).toSize().expandedTo({1, 1});
-    return {QPoint(qRound(exact.left()), qRound(exact.top())), size};
+PixelRect fitted(const Drawing& drawing, const Box& box) {
+    const auto rounded = [](double pixels) { return static_cast<int>(std::lround(pixels)); };
+    const Box exact = drawing.toPixels(box);
+    const PixelSize size{std::max(1, rounded(exact.width)), std::max(1, rounded(exact.height))};
+    return size.at({rounded(exact.corner.x), rounded(exact.corner.y)});
 }
 
-void paintGlyph(QPainter& painter, char character, const QRect& pixels, QRgb colour) {
-    const Glyph drawn = glyph(character, pixels.size());
-    painter.save();
-    painter.resetTransform();
-    painter.setClipRect(pixels);
-    painter.translate(pixels.topLeft());
-    painter.strokePath(drawn.line, QPen(QColor(colour), drawn.pen, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    painter.restore();
+void paintPixels(Canvas& canvas, std::string_view rows, const PixelRect& pixels, Colour colour) {
+    const auto width = static_cast<std::size_t>(pixels.width());
+    for (int y = pixels.top; y <= pixels.bottom; ++y) {
+        const std::string_view row = rows.substr(0, width);
+        rows.remove_prefix(width);
+        for (std::size_t begin = row.find('#'); begin < width;) {
+            const std::size_t end = std::min(row.find('.', begin), width);
+            canvas.fill({pixels.left + static_cast<int>(begin), y, pixels.left + static_cast<int>(end) - 1, y}, colour);
+            begin = row.find('#', end);
+        }
+    }
 }
 
-void paintSuit(QPainter& painter, Suit suit, const QRect& pixels) {
-    const bool isSmall = pixels.width() < smallBelow;
-    const QTransform transform = painter.transform();
-    painter.resetTransform();
-    painter.fillPath(isSmall ? smallSuitSymbol(suit, pixels) : suitSymbol(suit, pixels), QColor(suitColour(suit)));
-    painter.setTransform(transform);
+void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour) {
+    const auto& [line, pen] = glyph(character, pixels.size());
+    canvas.clip(pixels);
+    canvas.stroke(line, Transform().moved(toBox(pixels).corner), {colour, static_cast<double>(pen), Nib::Sharp});
+    canvas.clip(canvas.bounds());
 }
 
-void paintIndex(QPainter& painter, int rank, Suit suit) {
+void paintSuit(Canvas& canvas, Suit suit, const PixelRect& pixels) {
+    if (const std::string_view rows = tinySuit(suit, pixels.size()); !rows.empty()) {
+        paintPixels(canvas, rows, pixels, suitColour(suit));
+    } else {
+        const bool isSmall = pixels.width() < smallBelow;
+        canvas.fill(isSmall ? smallSuitSymbol(suit, pixels) : suitSymbol(suit, toBox(pixels)), {}, suitColour(suit));
+    }
+}
+
+void paintIndex(const Drawing& drawing, int rank, Suit suit) {
     const char character = indexGlyphs.at(static_cast<std::size_t>(rank) - 1);
-    paintGlyph(painter, character, indexBox(painter, indexRankBox), suitColour(suit));
-    QRect suitPixels = indexBox(painter, indexSuitBox);
-    suitPixels.setHeight(std::max(suitPixels.height(), suitPixels.width() + 2));
-    paintSuit(painter, suit, suitPixels);
+    paintGlyph(drawing.canvas, character, indexBox(drawing, indexRankBox), suitColour(suit));
+    PixelRect suitPixels = indexBox(drawing, indexSuitBox);
+    suitPixels.bottom = std::max(suitPixels.bottom, suitPixels.top + suitPixels.width() + 1);
+    paintSuit(drawing.canvas, suit, suitPixels);
 }
 
-void repeatUpsideDown(QImage& image, double fall) {
-    const int width = image.width();
-    const int height = image.height();
+void repeatUpsideDown(Canvas& canvas, double fall) {
+    const int width = canvas.size().width;
+    const int height = canvas.size().height;
+    const auto repeat = [&](const PixelRect& block) {
+        const PixelPoint opposite{width - 1 - block.right, height - 1 - block.bottom};
+        canvas.draw(canvas, block.size().at(opposite), block.corner(), Turn::Half);
+    };
     for (int y = 0; y < height; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const auto* opposite = reinterpret_cast<const QRgb*>(image.constScanLine(height - 1 - y));
-        for (int x = 0; x < width; ++x) {
+        const auto isBelow = [&](int x) {
             const int right = 2 * x + 1 - width;
             const double below = 2 * y + 1 - height - fall * right;
-            if (below > 0 || (below == 0 && right > 0)) {
-                line[x] = opposite[width - 1 - x];
-            }
+            return below > 0 || (below == 0 && right > 0);
+        };
+        PixelRect row{.left = 0, .top = y, .right = width - 1, .bottom = y};
+        while (!row.empty() && !isBelow(row.left)) {
+            ++row.left;
+        }
+        while (!row.empty() && !isBelow(row.right)) {
+            --row.right;
+        }
+        if (row.width() == width) {
+            repeat({.left = 0, .top = y, .right = width - 1, .bottom = height - 1});
+            return;
+        }
+        if (!row.empty()) {
+            repeat(row);
         }
     }
 }

@@ -1,29 +1,34 @@
 #pragma once
 
+#include "art/Drawing.h"
 #include "art/Symbols.h"
 
-#include <QPainter>
+#include <string_view>
 
 namespace tumble {
 
 // The card's own coordinates, in which everything is drawn: one unit is one pixel of the smallest rendition.
 inline constexpr double cardWidth = 81;
 inline constexpr double cardHeight = 126;
+inline constexpr Box wholeCard{{}, cardWidth, cardHeight};
 
-/// The box in whole pixels that a box of the painter's coordinates comes closest to.
-QRect fitted(const QPainter& painter, const QRectF& box);
+/// The block of pixels that a box of the drawing's coordinates comes closest to.
+PixelRect fitted(const Drawing& drawing, const Box& box);
 
-/// Paints a letter or digit of the index into a box of pixels.
-void paintGlyph(QPainter& painter, char character, const QRect& pixels, QRgb colour);
+/// Paints the pixels that are marked '#' in rows that fill a block.
+void paintPixels(Canvas& canvas, std::string_view rows, const PixelRect& pixels, Colour colour);
 
-/// Paints a suit's symbol into a box of pixels.
-void paintSuit(QPainter& painter, Suit suit, const QRect& pixels);
+/// Paints a letter or digit of the index into a block of pixels.
+void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour);
+
+/// Paints a suit's symbol into a block of pixels.
+void paintSuit(Canvas& canvas, Suit suit, const PixelRect& pixels);
 
 /// Paints rank and suit in the upper left corner. The rank is 1 for the ace to 13 for the king.
-void paintIndex(QPainter& painter, int rank, Suit suit);
+void paintIndex(const Drawing& drawing, int rank, Suit suit);
 
 /// Gives the picture of a card below its middle what it has above, turned by half. The line between them passes
 /// through the middle and falls to the right by that many pixels in each.
-void repeatUpsideDown(QImage& image, double fall);
+void repeatUpsideDown(Canvas& canvas, double fall);
 
 } // namespace tumble

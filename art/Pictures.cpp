@@ -30,32 +30,25 @@ bool isBack(int picture) {
 }
 
 /// Paints what the lower half shows upside down, as far as it lies above the middle.
-void paintUpperHalf(QPainter& painter, int picture) {
+void paintUpperHalf(const Drawing& drawing, int picture) {
     if (picture == jokerPicture) {
-        paintJokerMark(painter);
+        paintJokerMark(drawing);
         return;
     }
-    paintIndex(painter, rankOf(picture), suitOf(picture));
+    paintIndex(drawing, rankOf(picture), suitOf(picture));
     if (isCourt(picture)) {
-        paintCourt(painter, rankOf(picture), suitOf(picture));
+        paintCourt(drawing, rankOf(picture), suitOf(picture));
     } else {
-        paintPairedPips(painter, rankOf(picture), suitOf(picture));
+        paintPairedPips(drawing, rankOf(picture), suitOf(picture));
     }
 }
 
-void paintRest(QPainter& painter, int picture) {
+void paintRest(const Drawing& drawing, int picture) {
     if (picture == jokerPicture) {
-        paintJester(painter);
+        paintJester(drawing);
     } else if (!isCourt(picture)) {
-        paintSinglePips(painter, rankOf(picture), suitOf(picture));
+        paintSinglePips(drawing, rankOf(picture), suitOf(picture));
     }
-}
-
-void paint(QImage& image, void (*part)(QPainter&, int), int picture) {
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(image.width() / cardWidth, image.height() / cardHeight);
-    part(painter, picture);
 }
 
 } // namespace
@@ -74,30 +67,36 @@ std::string pictureKey(int picture) {
            suits.at(static_cast<std::size_t>(suitOf(picture)));
 }
 
-QImage drawPicture(int picture, QSize size) {
+void drawPicture(int picture, Canvas& canvas) {
     if (isBack(picture)) {
-        return drawBack(picture - firstBackPicture, size);
+        drawBack(picture - firstBackPicture, canvas);
+        return;
     }
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(white);
-    paint(image, paintUpperHalf, picture);
-    repeatUpsideDown(image, isCourt(picture) ? courtFall(size) : 0);
-    paint(image, paintRest, picture);
-    return image;
+    const PixelSize size = canvas.size();
+    const Drawing drawing{canvas, Transform::scaling(size.width / cardWidth, size.height / cardHeight)};
+    canvas.fill(canvas.bounds(), white);
+    paintUpperHalf(drawing, picture);
+    repeatUpsideDown(canvas, isCourt(picture) ? courtFall(size) : 0);
+    paintRest(drawing, picture);
 }
 
-QImage drawPicture(std::string_view key, QSize size) {
+bool drawPicture(std::string_view key, Canvas& canvas) {
     for (int picture = 0; picture < pictureCount; ++picture) {
         if (pictureKey(picture) == key) {
-            return drawPicture(picture, size);
+            drawPicture(picture, canvas);
+            return true;
         }
     }
-    return key == iconKey ? drawIcon(size) : QImage();
+    if (key == iconKey) {
+        canvas.fill(canvas.bounds(), white);
+        drawIcon(canvas);
+    }
+    return key == iconKey;
 }
 
-std::vector<QRgb> pictureColours(int picture) {
+std::vector<Colour> pictureColours(int picture) {
     constexpr std::size_t tableSize = 256;
-    std::vector<QRgb> colours = isBack(picture) ? backColours(picture - firstBackPicture) : faceColours();
+    std::vector<Colour> colours = isBack(picture) ? backColours(picture - firstBackPicture) : faceColours();
     colours.resize(tableSize, black);
     return colours;
 }

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "art/Symbols.h"
-
-#include <QColor>
-#include <QImage>
+#include "platform/Canvas.h"
 
 #include <string>
 #include <string_view>
@@ -19,7 +17,7 @@ inline constexpr int backCount = 4;
 inline constexpr int pictureCount = firstBackPicture + backCount;
 
 /// The size for which the pictures are fitted to the pixels.
-inline constexpr QSize cardSize(81, 126);
+inline constexpr PixelSize cardSize{81, 126};
 
 /// The name of a picture: "AceClubs" to "KingSpades", "Joker", "CardBack1" to "CardBack4".
 std::string pictureKey(int picture);
@@ -27,16 +25,16 @@ std::string pictureKey(int picture);
 /// The name of the program's icon.
 inline constexpr std::string_view iconKey = "Tumble";
 
-/// Draws a picture at the given size in pixels.
-QImage drawPicture(int picture, QSize size);
-/// Draws the picture, or the icon, of that name; a null image when there is none.
-QImage drawPicture(std::string_view key, QSize size);
+/// Draws a picture that fills a canvas.
+void drawPicture(int picture, Canvas& canvas);
+/// Draws the picture, or the icon on white, of that name; false when there is none.
+bool drawPicture(std::string_view key, Canvas& canvas);
 
 /// The colour table of a picture, of 256 entries.
-std::vector<QRgb> pictureColours(int picture);
+std::vector<Colour> pictureColours(int picture);
 
-/// The program's icon on a ground, and its colour table of 16 entries.
-QImage drawIcon(QSize size, QColor ground = Qt::white);
-std::vector<QRgb> iconColours();
+/// Draws the program's icon on what is there, and its colour table of 16 entries.
+void drawIcon(Canvas& canvas);
+std::vector<Colour> iconColours();
 
 } // namespace tumble

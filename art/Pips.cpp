@@ -12,8 +12,13 @@ namespace tumble {
 
 namespace {
 
-constexpr QSizeF pipSize(15, 16);
-constexpr QSizeF acePipSize(33, 36);
+struct PipSize {
+    double width;
+    double height;
+};
+
+constexpr PipSize pipSize{15, 16};
+constexpr PipSize acePipSize{33, 36};
 
 // The columns and rows of the pips of the upper half and the middle.
 constexpr double left = 22.5;
@@ -26,28 +31,27 @@ constexpr double betweenTopAndSecond = (top + second) / 2;
 constexpr double betweenTopAndCentre = (top + centre) / 2;
 
 // The pips that stand upright, for the ranks from the ace to the ten.
-constexpr std::array ace = {QPointF(middle, centre)};
-constexpr std::array two = {QPointF(middle, top)};
-constexpr std::array three = {QPointF(middle, top), QPointF(middle, centre)};
-constexpr std::array four = {QPointF(left, top), QPointF(right, top)};
-constexpr std::array five = {QPointF(left, top), QPointF(right, top), QPointF(middle, centre)};
-constexpr std::array six = {QPointF(left, top), QPointF(right, top), QPointF(left, centre), QPointF(right, centre)};
-constexpr std::array seven = {QPointF(left, top), QPointF(right, top), QPointF(left, centre), QPointF(right, centre),
-                              QPointF(middle, betweenTopAndCentre)};
-constexpr std::array nine = {QPointF(left, top), QPointF(right, top), QPointF(left, second), QPointF(right, second),
-                             QPointF(middle, centre)};
-constexpr std::array ten = {QPointF(left, top), QPointF(right, top), QPointF(left, second), QPointF(right, second),
-                            QPointF(middle, betweenTopAndSecond)};
+constexpr std::array ace = {Vec2{middle, centre}};
+constexpr std::array two = {Vec2{middle, top}};
+constexpr std::array three = {Vec2{middle, top}, Vec2{middle, centre}};
+constexpr std::array four = {Vec2{left, top}, Vec2{right, top}};
+constexpr std::array five = {Vec2{left, top}, Vec2{right, top}, Vec2{middle, centre}};
+constexpr std::array six = {Vec2{left, top}, Vec2{right, top}, Vec2{left, centre}, Vec2{right, centre}};
+constexpr std::array seven = {Vec2{left, top}, Vec2{right, top}, Vec2{left, centre}, Vec2{right, centre},
+                              Vec2{middle, betweenTopAndCentre}};
+constexpr std::array nine = {Vec2{left, top}, Vec2{right, top}, Vec2{left, second}, Vec2{right, second},
+                             Vec2{middle, centre}};
+constexpr std::array ten = {Vec2{left, top}, Vec2{right, top}, Vec2{left, second}, Vec2{right, second},
+                            Vec2{middle, betweenTopAndSecond}};
 
-std::span<const QPointF> uprightPips(int rank) {
-    const std::array<std::span<const QPointF>, 10> layouts = {ace, two,   three, four, five,
-                                                              six, seven, seven, nine, ten};
+std::span<const Vec2> uprightPips(int rank) {
+    const std::array<std::span<const Vec2>, 10> layouts = {ace, two, three, four, five, six, seven, seven, nine, ten};
     return layouts.at(static_cast<std::size_t>(rank) - 1);
 }
 
 /// Whether the pip has its like in the lower half, upside down.
-bool isPaired(int rank, const QPointF& pip) {
-    return pip.y() < centre && !(rank == 7 && pip.x() == middle);
+bool isPaired(int rank, Vec2 pip) {
+    return pip.y < centre && !(rank == 7 && pip.x == middle);
 }
 
 /// A number of pixels near a length, such that what is as long lies in the middle of the whole on whole pixels.
@@ -56,16 +60,16 @@ int centrable(double length, int whole) {
 }
 
 /// Where a pip lies in pixels. All pips of a card are equally large, and columns and rows even about its middle.
-QRect pipPixels(const QPainter& painter, const QPointF& pip, const QSizeF& size) {
-    const QRect card = fitted(painter, QRectF(0, 0, cardWidth, cardHeight));
-    const QRectF exact = painter.transform().mapRect(QRectF(pip, size));
-    const int width = centrable(exact.width(), card.width());
-    const int height = centrable(exact.height(), card.height());
-    const double nearer = std::min(exact.left(), card.width() - exact.left());
-    const int x = pip.x() == middle ? (card.width() - width) / 2 : static_cast<int>(std::lround(nearer - width / 2.0));
-    const int y =
-        pip.y() == centre ? (card.height() - height) / 2 : static_cast<int>(std::lround(exact.top() - height / 2.0));
-    return {pip.x() > middle ? card.width() - width - x : x, y, width, height};
+PixelRect pipPixels(const Drawing& drawing, Vec2 pip, PipSize size) {
+    const PixelRect card = fitted(drawing, wholeCard);
+    const Box exact = drawing.toPixels(Box{pip, size.width, size.height});
+    const PixelSize pixels{centrable(exact.width, card.width()), centrable(exact.height, card.height())};
+    const double nearer = std::min(exact.corner.x, card.width() - exact.corner.x);
+    const int x = pip.x == middle ? (card.width() - pixels.width) / 2
+                                  : static_cast<int>(std::lround(nearer - pixels.width / 2.0));
+    const int y = pip.y == centre ? (card.height() - pixels.height) / 2
+                                  : static_cast<int>(std::lround(exact.corner.y - pixels.height / 2.0));
+    return pixels.at({pip.x > middle ? card.width() - pixels.width - x : x, y});
 }
 
 /// The inlay of the ace of spades: a rim that follows the spade, and a lily between scrolls. The origin is the middle.
@@ -79,32 +83,30 @@ constexpr std::array inlay = {
 };
 
 /// A great spade, inlaid in white.
-void paintAceOfSpades(QPainter& painter) {
-    painter.save();
-    painter.translate(middle, centre);
-    painter.fillPath(suitSymbol(Suit::Spades, QRectF(-25, -32, 50, 62)), QColor(black));
-    paintPieces(painter, inlay, dressed(white, {}, {}, {}, {}));
-    painter.restore();
+void paintAceOfSpades(const Drawing& drawing) {
+    const Drawing card = drawing.moved({middle, centre});
+    card.canvas.fill(suitSymbol(Suit::Spades, {{-25, -32}, 50, 62}), card.toPixels, black);
+    paintPieces(card, inlay, dressed(white, {}, {}, {}, {}));
 }
 
 } // namespace
 
-void paintPairedPips(QPainter& painter, int rank, Suit suit) {
-    for (const QPointF& pip : uprightPips(rank)) {
+void paintPairedPips(const Drawing& drawing, int rank, Suit suit) {
+    for (const Vec2 pip : uprightPips(rank)) {
         if (isPaired(rank, pip)) {
-            paintSuit(painter, suit, pipPixels(painter, pip, pipSize));
+            paintSuit(drawing.canvas, suit, pipPixels(drawing, pip, pipSize));
         }
     }
 }
 
-void paintSinglePips(QPainter& painter, int rank, Suit suit) {
+void paintSinglePips(const Drawing& drawing, int rank, Suit suit) {
     if (rank == 1 && suit == Suit::Spades) {
-        paintAceOfSpades(painter);
+        paintAceOfSpades(drawing);
         return;
     }
-    for (const QPointF& pip : uprightPips(rank)) {
+    for (const Vec2 pip : uprightPips(rank)) {
         if (!isPaired(rank, pip)) {
-            paintSuit(painter, suit, pipPixels(painter, pip, rank == 1 ? acePipSize : pipSize));
+            paintSuit(drawing.canvas, suit, pipPixels(drawing, pip, rank == 1 ? acePipSize : pipSize));
         }
     }
 }

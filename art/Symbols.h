@@ -1,25 +1,35 @@
 #pragma once
 
 #include "art/Ink.h"
+#include "platform/Path.h"
+#include "platform/Pixels.h"
 
-#include <QPainterPath>
-#include <QRectF>
+#include <string_view>
 
 namespace tumble {
+
+inline Box toBox(const PixelRect& pixels) {
+    return {{static_cast<double>(pixels.left), static_cast<double>(pixels.top)},
+            static_cast<double>(pixels.width()),
+            static_cast<double>(pixels.height())};
+}
 
 enum class Suit { Clubs, Diamonds, Hearts, Spades };
 inline constexpr int suitCount = 4;
 
 /// Red for diamonds and hearts, black for clubs and spades.
-QRgb suitColour(Suit suit);
+Colour suitColour(Suit suit);
 
 /// The symbol of a suit stretched into a box, which the diamond does not quite fill.
-QPainterPath suitSymbol(Suit suit, const QRectF& box);
+Path suitSymbol(Suit suit, const Box& box);
+
+/// A sturdy one, of whole pixels, for a box of that size; its rows one after the other, empty for a larger box.
+std::string_view tinySuit(Suit suit, PixelSize size);
 
 /// A sturdy one that fills a box of few pixels, with the stem on whole pixels.
-QPainterPath smallSuitSymbol(Suit suit, const QRect& pixels);
+Path smallSuitSymbol(Suit suit, const PixelRect& pixels);
 
 /// A star of five points stretched into a box.
-QPainterPath star(const QRectF& box);
+Path star(const Box& box);
 
 } // namespace tumble

@@ -9,7 +9,7 @@ namespace tumble {
 
 /// The suits in so few pixels that each counts, row by row: clubs, diamonds, hearts, spades.
 struct TinySuits {
-    QSize size;
+    PixelSize size;
     std::array<std::string_view, suitCount> rows;
 };
 

@@ -44,7 +44,8 @@ public:
     }
 
 private:
-    QtDesktop desktop_{application(), [](const auto& picture, QSize size) { return drawPicture(picture.Key, size); }};
+    QtDesktop desktop_{application(),
+                       [](const auto& picture, auto& canvas) { return drawPicture(picture.Key, canvas); }};
 };
 
 /// A spread of 24, 52 or 104 cards.

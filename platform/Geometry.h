@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace tumble {
@@ -10,6 +11,14 @@ using Colour = std::int32_t;
 
 /// The colour of the window around a picture box, whatever the player's theme; the desktop knows it when it paints.
 inline constexpr Colour windowColour = -1;
+
+constexpr Colour rgb(int red, int green, int blue) {
+    return blue << 16 | green << 8 | red;
+}
+/// The amounts of red, green and blue, from 0 to 255.
+constexpr std::array<int, 3> channels(Colour colour) {
+    return {colour & 255, colour >> 8 & 255, colour >> 16 & 255};
+}
 
 /// How many twips one pixel of an unscaled screen is wide and high.
 inline constexpr float twipsPerPixel = 15;
@@ -24,6 +33,22 @@ struct Point {
 
     friend bool operator==(const Point&, const Point&) = default;
 };
+
+/// A rectangle that holds all of `whole` that `cover` leaves to see; the cover's next neighbours are `beyond` its
+/// edges.
+template<class Rectangle, class Length>
+Rectangle leftToSee(const Rectangle& whole, const Rectangle& cover, Length beyond) {
+    Rectangle rest = whole;
+    if (cover.top <= whole.top && cover.bottom >= whole.bottom) {
+        rest.left = cover.left <= whole.left ? std::max(whole.left, cover.right + beyond) : whole.left;
+        rest.right = cover.right >= whole.right ? std::min(whole.right, cover.left - beyond) : whole.right;
+    }
+    if (cover.left <= whole.left && cover.right >= whole.right) {
+        rest.top = cover.top <= whole.top ? std::max(whole.top, cover.bottom + beyond) : whole.top;
+        rest.bottom = cover.bottom >= whole.bottom ? std::min(whole.bottom, cover.top - beyond) : whole.bottom;
+    }
+    return rest;
+}
 
 /// A rectangle in twips that includes all four of its edges.
 struct Rect {
@@ -63,7 +88,7 @@ struct Rect {
     }
 
     /// A rectangle that holds all of this one that `cover` leaves to see, and of the cover at most an edge.
-    Rect without(const Rect& cover) const;
+    Rect without(const Rect& cover) const { return leftToSee(*this, cover, 0.0F); }
 
     /// True when less than `gap` twips of space lie between the two; with no gap, when they share a point.
     bool meets(const Rect& other, float gap = 0) const {
@@ -73,18 +98,5 @@ struct Rect {
 
     friend bool operator==(const Rect&, const Rect&) = default;
 };
-
-inline Rect Rect::without(const Rect& cover) const {
-    Rect rest = *this;
-    if (cover.top <= top && cover.bottom >= bottom) {
-        rest.left = cover.left <= left ? std::max(left, cover.right) : left;
-        rest.right = cover.right >= right ? std::min(right, cover.left) : right;
-    }
-    if (cover.left <= left && cover.right >= right) {
-        rest.top = cover.top <= top ? std::max(top, cover.bottom) : top;
-        rest.bottom = cover.bottom >= bottom ? std::min(bottom, cover.top) : bottom;
-    }
-    return rest;
-}
 
 } // namespace tumble

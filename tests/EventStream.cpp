@@ -1,11 +1,15 @@
 #include "tests/EventStream.h"
 
+#include "platform/ShownPainting.h"
 #include "platform/memory/Raster.h"
 #include "tests/Player.h"
 
 #include <algorithm>
 #include <bit>
+#include <functional>
 #include <limits>
+#include <optional>
+#include <string>
 
 namespace tumble {
 
@@ -21,6 +25,19 @@ struct Number {
         return static_cast<Set>(value);
     }
 };
+
+/// Each picture in stripes of its own, level and upright, so that none is like another nor like itself moved.
+bool paintStripes(const Picture& picture, Canvas& canvas) {
+    const auto own = static_cast<Colour>(std::hash<std::string>{}(picture.Key) & 0xFFFF00U);
+    const auto [width, height] = canvas.size();
+    for (int y = 0; y < height; ++y) {
+        canvas.fill({.left = 0, .top = y, .right = width - 1, .bottom = y}, own + y % 256);
+    }
+    for (int x = 0; x < width; x += 3) {
+        canvas.fill({.left = x, .top = 0, .right = x, .bottom = height - 1}, own + 255 - x % 256);
+    }
+    return true;
+}
 
 class Session {
 public:
@@ -41,12 +58,16 @@ public:
         if (game_) {
             chooseAndPlay();
         }
+        const bool looks = kind >= 252;
         std::size_t events = 0;
         for (; !done() && !table_.desktop.ended(); ++events) {
             game_ ? tableEvent() : operation();
             check();
+            if (looks) {
+                look();
+            }
         }
-        if (kind >= 252) {
+        if (looks) {
             checkPixels();
         }
         return events;
@@ -203,16 +224,27 @@ private:
         require(after <= 1 && lastIsOnTable, "a drop ends otherwise");
     }
 
-    /// The painting's list shows the same pixels as everything that was painted.
-    void checkPixels() {
-        const Painting& painting = table_.picture().painting();
-        Raster list(painting, PixelScale(1 + static_cast<double>(log().size() % 7) / 4));
-        Raster everything = list;
-        list.paint(painting.items());
-        everything.paint(log());
-        require(list == everything, "the painting's list shows something else than what was painted");
+    /// A window shows the painting as it is now, sometimes at another scale.
+    void look() {
+        scale_ = PixelScale(1 + static_cast<double>(log().size() / 256 % 7) / 4);
+        const PixelSize size = scale_.pixels(painting().bounds()).size();
+        if (!window_ || window_->size() != size) {
+            window_.emplace(size, painting().ground());
+        }
+        shown_.bringUpToDate(*window_, painting(), scale_);
     }
 
+    /// The window shows the same pixels as everything that was painted.
+    void checkPixels() {
+        look();
+        Raster everything(window_->size(), painting().ground());
+        for (const PaintItem& item : log()) {
+            paint(everything, item, scale_, pictures_);
+        }
+        require(*window_ == everything, "the window shows something else than what was painted");
+    }
+
+    const Painting& painting() { return table_.picture().painting(); }
     CardTracker& tracker() const { return table_.tracker(); }
     const std::vector<PaintItem>& log() { return table_.desktop.log(table_.picture()); }
 
@@ -221,6 +253,10 @@ private:
     Table table_;
     int cards_ = 0; // in the game, or about as many as operations have laid on the table
     bool game_ = false;
+    PictureCache pictures_{paintStripes};
+    ShownPainting shown_{painting(), pictures_};
+    std::optional<Raster> window_;
+    PixelScale scale_{1};
 };
 
 } // namespace

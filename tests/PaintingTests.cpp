@@ -1,5 +1,7 @@
 #include "platform/Picture.h"
 #include "platform/PixelScale.h"
+#include "platform/Replay.h"
+#include "platform/memory/Raster.h"
 #include "tests/Table.h"
 
 #include <gtest/gtest.h>
@@ -156,6 +158,24 @@ TEST(PixelScaleTest, SlantingLinesAreWholeFromEndToEndAndMirrored) {
         EXPECT_EQ(down.back().right, item.right);
     }
     EXPECT_EQ(PixelScale(1).slant({30, 15}, {150, 20}, {0, 0, 20, 20}), std::vector({PixelRect{2, 1, 10, 1}}));
+}
+
+// Cut at the edge of a part, a smoothed line would not join what shows of it outside.
+TEST(ReplayTest, ACircleIsRepaintedWhole) {
+    Painting painting(3000, 2000, tableGreen);
+    const auto marked = [](const Rect& place) {
+        return PaintItem{place, {FillOperation{place, blue}, CircleOperation{{place.left, place.top}, 50, red}}};
+    };
+    painting.add(marked({150, 150, 449, 449}));
+    painting.add(marked({450, 150, 749, 449}));
+    painting.add(marked({1500, 150, 1799, 449}));
+    PictureCache pictures({});
+    Raster canvas({200, 133}, 0);
+    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {29, 5, 29, 10}, pictures), (PixelRect{10, 5, 29, 29}));
+    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {29, 5, 30, 10}, pictures), (PixelRect{10, 5, 49, 29}));
+    EXPECT_EQ(canvas.at({20, 20}), blue);
+    EXPECT_EQ(canvas.at({50, 20}), 0);
+    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {0, 0, 5, 200}, pictures), (PixelRect{0, 0, 5, 132}));
 }
 
 TEST(RectTest, SidesOfABoxLieInsideItAndACoverLeavesTheRest) {

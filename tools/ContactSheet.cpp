@@ -1,6 +1,7 @@
 // Writes pictures on which a person can judge the cards: contact-sheet OUTPUT-FOLDER
 
 #include "art/Pictures.h"
+#include "platform/qt/QtCanvas.h"
 
 #include <QImageWriter>
 #include <QPainter>
@@ -19,24 +20,26 @@ namespace tumble {
 namespace {
 
 constexpr int gap = 4;
-constexpr QRgb ground = qRgb(30, 90, 64);
+constexpr Colour ground = rgb(30, 90, 64);
 
 QImage bordered(int picture, QSize size) {
-    QImage card = drawPicture(picture, size);
-    QPainter painter(&card);
-    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
-    return card;
+    QtCanvas card({size.width(), size.height()}, ground);
+    drawPicture(picture, card);
+    for (const PixelRect& side : boxSides(card.bounds(), 1)) {
+        card.fill(side, 0);
+    }
+    return card.image();
 }
 
 QImage emptySheet(QSize size) {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(ground);
+    image.fill(toQColor(ground));
     return image;
 }
 
 /// All pictures at a whole multiple of their size, a suit in each row.
 QImage sheet(int scale) {
-    const QSize size = cardSize * scale;
+    const QSize size(cardSize.width * scale, cardSize.height * scale);
     const QSize step = size + QSize(gap, gap);
     constexpr int columns = (pictureCount + suitCount - 1) / suitCount;
     QImage image = emptySheet({columns * step.width() + gap, suitCount * step.height() + gap});
@@ -85,15 +88,18 @@ QImage slivers() {
 /// As many colours as fit into a small file.
 QImage reduced(const QImage& image) {
     constexpr std::size_t inks = 240;
-    std::vector<QRgb> colours = pictureColours(0);
+    std::vector<Colour> colours = pictureColours(0);
     colours.resize(inks);
     colours.push_back(ground);
     for (int back = firstBackPicture; back < pictureCount; ++back) {
-        const std::vector<QRgb> table = pictureColours(back);
+        const std::vector<Colour> table = pictureColours(back);
         colours.insert(colours.end(), table.begin(), table.begin() + 3);
     }
-    return image.convertToFormat(QImage::Format_Indexed8, QList<QRgb>(colours.begin(), colours.end()),
-                                 Qt::ThresholdDither | Qt::AvoidDither);
+    QList<QRgb> palette;
+    for (const Colour colour : colours) {
+        palette.push_back(toQColor(colour).rgb());
+    }
+    return image.convertToFormat(QImage::Format_Indexed8, palette, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
 void save(const QImage& image, const std::filesystem::path& file) {

@@ -2,6 +2,7 @@
 
 #include "art/Icon.h"
 #include "art/Pictures.h"
+#include "platform/qt/QtCanvas.h"
 #include "tools/Gif.h"
 #include "tools/Svg.h"
 
@@ -18,9 +19,13 @@ namespace {
 void writePictures(const std::filesystem::path& folder) {
     std::filesystem::create_directories(folder);
     for (int picture = 0; picture < pictureCount; ++picture) {
-        writeGif(drawPicture(picture, cardSize), pictureColours(picture), folder / (pictureKey(picture) + ".gif"));
+        QtCanvas card(cardSize, rgb(255, 255, 255));
+        drawPicture(picture, card);
+        writeGif(card.image(), pictureColours(picture), folder / (pictureKey(picture) + ".gif"));
     }
-    writeGif(drawIcon({32, 32}), iconColours(), folder / "tumble.gif");
+    QtCanvas icon({iconWidth, iconWidth}, rgb(255, 255, 255));
+    drawIcon(icon);
+    writeGif(icon.image(), iconColours(), folder / "tumble.gif");
 }
 
 void writeIcons(const std::filesystem::path& folder) {
@@ -28,7 +33,9 @@ void writeIcons(const std::filesystem::path& folder) {
     writeSvg(iconShapes(), iconWidth, folder / "tumble.svg");
     for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
         const std::filesystem::path file = folder / ("tumble-" + std::to_string(width) + ".png");
-        if (!drawIcon({width, width}, Qt::transparent).save(QString::fromStdString(file.string()))) {
+        QtCanvas icon({width, width}, {});
+        drawIcon(icon);
+        if (!icon.image().convertToFormat(QImage::Format_ARGB32).save(QString::fromStdString(file.string()))) {
             throw std::runtime_error("cannot write " + file.string());
         }
     }

@@ -12,16 +12,18 @@ namespace tumble {
 namespace {
 
 /// How far apart two colours look. A difference in hue counts besides the one in the channels, so that grey stays grey.
-int distance(QRgb a, QRgb b) {
+int distance(Colour a, Colour b) {
     const auto square = [](int value) { return value * value; };
-    const int reds = qRed(a) - qRed(b);
-    const int greens = qGreen(a) - qGreen(b);
-    const int blues = qBlue(a) - qBlue(b);
+    const auto [redA, greenA, blueA] = channels(a);
+    const auto [redB, greenB, blueB] = channels(b);
+    const int reds = redA - redB;
+    const int greens = greenA - greenB;
+    const int blues = blueA - blueB;
     return square(reds) + square(greens) + square(blues) + square(reds - greens) + square(greens - blues);
 }
 
-GifPixelType nearest(const std::vector<QRgb>& colours, QRgb pixel) {
-    const auto closer = [pixel](QRgb a, QRgb b) { return distance(a, pixel) < distance(b, pixel); };
+GifPixelType nearest(const std::vector<Colour>& colours, Colour pixel) {
+    const auto closer = [pixel](Colour a, Colour b) { return distance(a, pixel) < distance(b, pixel); };
     return static_cast<GifPixelType>(std::min_element(colours.begin(), colours.end(), closer) - colours.begin());
 }
 
@@ -31,12 +33,13 @@ struct FreeColourMap {
 
 using ColourMap = std::unique_ptr<ColorMapObject, FreeColourMap>;
 
-ColourMap colourMap(const std::vector<QRgb>& colours) {
+ColourMap colourMap(const std::vector<Colour>& colours) {
     std::vector<GifColorType> entries;
     entries.reserve(colours.size());
-    for (const QRgb colour : colours) {
-        entries.push_back({static_cast<GifByteType>(qRed(colour)), static_cast<GifByteType>(qGreen(colour)),
-                           static_cast<GifByteType>(qBlue(colour))});
+    for (const Colour colour : colours) {
+        const auto [red, green, blue] = channels(colour);
+        entries.push_back(
+            {static_cast<GifByteType>(red), static_cast<GifByteType>(green), static_cast<GifByteType>(blue)});
     }
     return ColourMap(GifMakeMapObject(static_cast<int>(entries.size()), entries.data()));
 }
@@ -47,7 +50,7 @@ void check(bool worked, const std::filesystem::path& file) {
     }
 }
 
-bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<QRgb>& colours) {
+bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<Colour>& colours) {
     const ColourMap map = colourMap(colours);
     EGifSetGifVersion(gif, false);
     bool worked =
@@ -56,7 +59,8 @@ bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<QRgb>
     std::vector<GifPixelType> line(static_cast<std::size_t>(picture.width()));
     for (int y = 0; worked && y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            line[static_cast<std::size_t>(x)] = nearest(colours, picture.pixel(x, y));
+            const QColor pixel = picture.pixelColor(x, y);
+            line[static_cast<std::size_t>(x)] = nearest(colours, rgb(pixel.red(), pixel.green(), pixel.blue()));
         }
         worked = EGifPutLine(gif, line.data(), picture.width()) == GIF_OK;
     }
@@ -65,7 +69,7 @@ bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<QRgb>
 
 } // namespace
 
-void writeGif(const QImage& picture, const std::vector<QRgb>& colours, const std::filesystem::path& file) {
+void writeGif(const QImage& picture, const std::vector<Colour>& colours, const std::filesystem::path& file) {
     GifFileType* gif = EGifOpenFileName(file.c_str(), false, nullptr);
     check(gif != nullptr, file);
     const bool written = writeImage(gif, picture, colours);

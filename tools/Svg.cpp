@@ -1,5 +1,7 @@
 #include "tools/Svg.h"
 
+#include "platform/qt/QtCanvas.h"
+
 #include <QString>
 
 #include <fstream>
@@ -16,25 +18,25 @@ std::string number(double value) {
 }
 
 /// The commands of a path. Its shapes are closed: the filling does so anyway.
-std::string commands(const QPainterPath& path) {
+std::string commands(const Path& path) {
     std::string text;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element& element = path.elementAt(i);
-        switch (element.type) {
-        case QPainterPath::MoveToElement:
-            text += 'M';
+    const auto add = [&text](char command, Vec2 place) { text += command + number(place.x) + ' ' + number(place.y); };
+    for (const auto& [verb, to, bends] : path.steps()) {
+        switch (verb) {
+        case Path::Verb::Move:
+            add('M', to);
             break;
-        case QPainterPath::LineToElement:
-            text += 'L';
+        case Path::Verb::Line:
+            add('L', to);
             break;
-        case QPainterPath::CurveToElement:
-            text += 'C';
+        case Path::Verb::Curve:
+            add('C', bends[0]);
+            add(' ', bends[1]);
+            add(' ', to);
             break;
-        case QPainterPath::CurveToDataElement:
-            text += ' ';
+        case Path::Verb::Close:
             break;
         }
-        text += number(element.x) + ' ' + number(element.y);
     }
     return text;
 }
@@ -45,7 +47,7 @@ void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem
     std::ofstream out(file);
     out << R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 )" << width << ' ' << width << "\">\n";
     for (const Shape& shape : shapes) {
-        out << R"(<path fill=")" << QColor(shape.colour).name().toStdString() << R"(" d=")" << commands(shape.outline)
+        out << R"(<path fill=")" << toQColor(shape.colour).name().toStdString() << R"(" d=")" << commands(shape.outline)
             << "\"/>\n";
     }
     out << "</svg>\n";

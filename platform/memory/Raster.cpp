@@ -1,98 +1,152 @@
 #include "platform/memory/Raster.h"
 
-#include "platform/Picture.h"
-
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <string>
-#include <variant>
+#include <utility>
 
 namespace tumble {
 
-Raster::Raster(const Painting& painting, PixelScale scale)
-    : scale_(scale),
-      all_(scale.pixels(painting.bounds())),
-      pixels_(static_cast<std::size_t>(all_.width()) * static_cast<std::size_t>(all_.height()), painting.ground()) {}
+namespace {
 
-void Raster::paint(const std::vector<PaintItem>& items) {
-    for (const PaintItem& item : items) {
-        paint(item);
+/// A straight way between two places in pixels.
+struct Edge {
+    Vec2 from;
+    Vec2 to;
+};
+
+Vec2 between(Vec2 from, Vec2 to, double share) {
+    return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
+}
+
+/// The edges of a path, its curves cut into straight pieces. All outlines are closed when they are filled.
+std::vector<Edge> edges(const Path& path, bool allClosed) {
+    constexpr int pieces = 16;
+    std::vector<Edge> all;
+    Vec2 first;
+    Vec2 last;
+    const auto lineTo = [&](Vec2 to) {
+        all.push_back({last, to});
+        last = to;
+    };
+    for (const auto& [verb, to, bends] : path.steps()) {
+        if (verb == Path::Verb::Close || (verb == Path::Verb::Move && allClosed)) {
+            lineTo(first);
+        }
+        if (verb == Path::Verb::Move) {
+            first = last = to;
+        } else if (verb == Path::Verb::Line) {
+            lineTo(to);
+        } else if (verb == Path::Verb::Curve) {
+            const Vec2 from = last;
+            for (int piece = 1; piece <= pieces; ++piece) {
+                const double share = static_cast<double>(piece) / pieces;
+                const Vec2 middle = between(bends[0], bends[1], share);
+                lineTo(between(between(between(from, bends[0], share), middle, share),
+                               between(middle, between(bends[1], to, share), share), share));
+            }
+        }
     }
-}
-
-void Raster::paint(const PaintItem& item) {
-    const PixelRect place = scale_.pixels(item.place);
-    const PixelRect clip = place.intersected(all_);
-    for (const Operation& operation : item.operations) {
-        std::visit([&](const auto& what) { draw(what, place, clip); }, operation);
+    if (allClosed) {
+        lineTo(first);
     }
+    return all;
 }
 
-std::size_t Raster::index(int x, int y) const {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width()) + static_cast<std::size_t>(x);
+} // namespace
+
+Raster::Raster(PixelSize size, std::optional<Colour> ground)
+    : size_(size),
+      clip_(bounds()),
+      pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height), ground.value_or(clear)) {}
+
+std::unique_ptr<Canvas> Raster::another(PixelSize size, std::optional<Colour> ground) const {
+    return std::make_unique<Raster>(size, ground);
 }
 
-Colour Raster::at(int x, int y) const {
-    return pixels_.at(index(x, y));
+std::size_t Raster::index(PixelPoint pixel) const {
+    return static_cast<std::size_t>(pixel.y) * static_cast<std::size_t>(size_.width) +
+           static_cast<std::size_t>(pixel.x);
 }
 
-void Raster::set(int x, int y, const PixelRect& clip, Colour colour) {
-    if (x >= clip.left && x <= clip.right && y >= clip.top && y <= clip.bottom) {
-        pixels_[index(x, y)] = colour;
-    }
-}
-
-void Raster::fill(const PixelRect& rect, const PixelRect& clip, Colour colour) {
-    const PixelRect part = rect.intersected(clip);
+template<class Source>
+void Raster::paint(const PixelRect& block, const Source& source) {
+    const PixelRect part = block.intersected(clip_);
     for (int y = part.top; y <= part.bottom; ++y) {
         for (int x = part.left; x <= part.right; ++x) {
-            set(x, y, clip, colour);
+            if (const Colour colour = source({x, y}); colour != clear) {
+                pixels_[index({x, y})] = colour;
+            }
         }
     }
 }
 
-void Raster::draw(const PictureOperation& picture, const PixelRect& /*place*/, const PixelRect& clip) {
-    const PixelRect box = scale_.pixels(picture.box);
-    const auto own = static_cast<Colour>(std::hash<std::string>{}(picture.picture->Key) & 0xFFFF00U);
-    const PixelRect part = box.intersected(clip);
-    for (int y = part.top; y <= part.bottom; ++y) {
-        for (int x = part.left; x <= part.right; ++x) {
-            set(x, y, clip, own + (x - box.left + y - box.top) % 256);
+template<class Source>
+void Raster::paintInside(const Path& path, const Transform& toPixels, const Source& source) {
+    const std::vector<Edge> outline = edges(path.mapped(toPixels), true);
+    for (int y = clip_.top; y <= clip_.bottom; ++y) {
+        std::vector<std::pair<double, int>> crossings; // where, and whether the outline comes from above
+        for (const auto& [from, to] : outline) {
+            const double middle = y + 0.5;
+            if ((from.y <= middle) != (to.y <= middle)) {
+                crossings.emplace_back(between(from, to, (middle - from.y) / (to.y - from.y)).x,
+                                       from.y < to.y ? 1 : -1);
+            }
+        }
+        std::sort(crossings.begin(), crossings.end());
+        int winding = 0;
+        double begin = 0;
+        for (const auto& [x, turn] : crossings) {
+            if (winding != 0) {
+                paint({.left = static_cast<int>(std::ceil(begin - 0.5)),
+                       .top = y,
+                       .right = static_cast<int>(std::ceil(x - 0.5)) - 1,
+                       .bottom = y},
+                      source);
+            }
+            winding += turn;
+            begin = x;
         }
     }
 }
 
-void Raster::draw(const FillOperation& operation, const PixelRect& /*place*/, const PixelRect& clip) {
-    fill(scale_.pixels(operation.box), clip, operation.colour);
+void Raster::fill(const PixelRect& block, Colour colour) {
+    paint(block, [colour](PixelPoint) { return colour; });
 }
 
-void Raster::draw(const BoxOperation& operation, const PixelRect& /*place*/, const PixelRect& clip) {
-    const PixelRect box = scale_.pixels(operation.box);
-    for (const PixelRect& side : boxSides(box, scale_.pen())) {
-        fill(side, clip, operation.colour);
+void Raster::fill(const Path& path, const Transform& toPixels, Colour colour) {
+    paintInside(path, toPixels, [colour](PixelPoint) { return colour; });
+}
+
+void Raster::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
+    const auto& tile = dynamic_cast<const Raster&>(texture);
+    const auto wrapped = [](int place, int length) { return (place % length + length) % length; };
+    paintInside(path, toPixels, [&](PixelPoint pixel) {
+        return tile.at(
+            {wrapped(pixel.x - corner.x, tile.size().width), wrapped(pixel.y - corner.y, tile.size().height)});
+    });
+}
+
+void Raster::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
+    const int width = std::max(1, static_cast<int>(std::lround(pen.width * std::abs(toPixels.right.x))));
+    for (const auto& [from, to] : edges(path.mapped(toPixels), false)) {
+        const int steps = 1 + static_cast<int>(std::hypot(to.x - from.x, to.y - from.y));
+        for (int step = 0; step <= steps; ++step) {
+            const Vec2 middle = between(from, to, static_cast<double>(step) / steps);
+            const PixelPoint corner{static_cast<int>(std::floor(middle.x - (width - 1) / 2.0)),
+                                    static_cast<int>(std::floor(middle.y - (width - 1) / 2.0))};
+            fill(PixelSize{width, width}.at(corner), pen.colour);
+        }
     }
 }
 
-void Raster::draw(const LineOperation& line, const PixelRect& place, const PixelRect& clip) {
-    if (line.from.x == line.to.x || line.from.y == line.to.y) {
-        fill(scale_.stroke(line.from, line.to, place), clip, line.colour);
-        return;
-    }
-    for (const PixelRect& block : scale_.slant(line.from, line.to, place)) {
-        fill(block, clip, line.colour);
-    }
-}
-
-void Raster::draw(const CircleOperation& circle, const PixelRect& /*place*/, const PixelRect& clip) {
-    const double radius = circle.radius * scale_.factor() / twipsPerPixel;
-    const int x = scale_.pixel(circle.centre.x);
-    const int y = scale_.pixel(circle.centre.y);
-    for (int degree = 0; degree < 360; ++degree) {
-        const double angle = degree * 3.14159265358979 / 180;
-        set(x + static_cast<int>(std::lround(radius * std::cos(angle))),
-            y + static_cast<int>(std::lround(radius * std::sin(angle))), clip, circle.colour);
-    }
+void Raster::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+    const auto& from = dynamic_cast<const Raster&>(image);
+    const PixelRect to = block.size().at(at);
+    paint(to, [&](PixelPoint pixel) {
+        const int right = turn == Turn::Mirrored || turn == Turn::Half ? to.right - pixel.x : pixel.x - to.left;
+        const int down = turn == Turn::UpsideDown || turn == Turn::Half ? to.bottom - pixel.y : pixel.y - to.top;
+        return from.at({block.left + right, block.top + down});
+    });
 }
 
 } // namespace tumble

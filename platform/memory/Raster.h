@@ -1,41 +1,42 @@
 #pragma once
 
-#include "platform/Painting.h"
-#include "platform/PixelScale.h"
+#include "platform/Canvas.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace tumble {
 
-/// Paint items as pixels, without a display: what a test compares. A picture shows as a gradient of its own.
-class Raster {
+/// A canvas in memory, without a toolkit: what a test compares. Nothing is smoothed: a pixel is inside a path if its
+/// middle is.
+class Raster : public Canvas {
 public:
-    /// A surface of the painting's size at the scale, showing the ground alone.
-    Raster(const Painting& painting, PixelScale scale);
+    Raster(PixelSize size, std::optional<Colour> ground);
 
-    void paint(const PaintItem& item);
-    void paint(const std::vector<PaintItem>& items);
-
-    int width() const { return all_.width(); }
-    int height() const { return all_.height(); }
-    /// The colour of a pixel inside the surface.
-    Colour at(int x, int y) const;
+    /// The colour of a pixel inside the canvas; `clear` where it is transparent.
+    Colour at(PixelPoint pixel) const { return pixels_.at(index(pixel)); }
+    static constexpr Colour clear = -2;
 
     friend bool operator==(const Raster& one, const Raster& other) { return one.pixels_ == other.pixels_; }
 
-private:
-    std::size_t index(int x, int y) const;
-    void set(int x, int y, const PixelRect& clip, Colour colour);
-    void fill(const PixelRect& rect, const PixelRect& clip, Colour colour);
-    void draw(const PictureOperation& picture, const PixelRect& place, const PixelRect& clip);
-    void draw(const FillOperation& operation, const PixelRect& place, const PixelRect& clip);
-    void draw(const BoxOperation& operation, const PixelRect& place, const PixelRect& clip);
-    void draw(const LineOperation& line, const PixelRect& place, const PixelRect& clip);
-    void draw(const CircleOperation& circle, const PixelRect& place, const PixelRect& clip);
+    PixelSize size() const override { return size_; }
+    std::unique_ptr<Canvas> another(PixelSize size, std::optional<Colour> ground) const override;
+    void clip(const PixelRect& block) override { clip_ = block.intersected(bounds()); }
+    void fill(const PixelRect& block, Colour colour) override;
+    void fill(const Path& path, const Transform& toPixels, Colour colour) override;
+    void fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) override;
+    void stroke(const Path& path, const Transform& toPixels, const Pen& pen) override;
+    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
 
-    PixelScale scale_;
-    PixelRect all_;
+private:
+    std::size_t index(PixelPoint pixel) const;
+    /// Gives the pixels of a block, or inside a path, the colours that the source has for them.
+    template<class Source>
+    void paint(const PixelRect& block, const Source& source);
+    template<class Source>
+    void paintInside(const Path& path, const Transform& toPixels, const Source& source);
+
+    PixelSize size_;
+    PixelRect clip_;
     std::vector<Colour> pixels_;
 };
 

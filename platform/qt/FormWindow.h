@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/PictureCache.h"
 #include "platform/qt/Captions.h"
-#include "platform/qt/PictureCache.h"
 #include "platform/qt/ScaledStyle.h"
 #include "platform/qt/ScreenRoom.h"
 

@@ -1,5 +1,7 @@
 #include "platform/qt/QtDesktop.h"
 
+#include "platform/Replay.h"
+#include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
 
 #include <QAbstractButton>
@@ -86,9 +88,11 @@ protected:
 } // namespace
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
-    : Desktop(std::move(application)), pictures_(std::move(painter)) {
+    : Desktop(std::move(application)), pictures_(std::move(painter), decoded) {
     for (const int size : iconSizes) {
-        icon_.addPixmap(QPixmap::fromImage(pictures_.image(App().Icon, {size, size})));
+        QtCanvas canvas({size, size}, windowColour);
+        paint(canvas, App().Icon, canvas.bounds(), canvas.bounds(), pictures_);
+        icon_.addPixmap(QPixmap::fromImage(canvas.image()));
     }
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/PictureCache.h"
 #include "platform/Random.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/HeldKeys.h"
-#include "platform/qt/PictureCache.h"
 
 #include <QIcon>
 #include <QPointer>
@@ -17,7 +17,7 @@ namespace tumble {
 /// The real desktop, on Qt Widgets. Needs a QApplication that outlives it.
 class QtDesktop : public Desktop {
 public:
-    /// Puts itself in use, until it goes. Without a painter, pictures are scaled from their bytes.
+    /// Puts itself in use, until it goes. Pictures that the painter does not know are scaled from their bytes.
     explicit QtDesktop(Application application, PicturePainter painter = {});
     QtDesktop(const QtDesktop&) = delete;
     QtDesktop& operator=(const QtDesktop&) = delete;

@@ -73,12 +73,7 @@ double pixelRatio(const QWidget& widget) {
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
-    : QWidget(parent),
-      box_(&box),
-      hand_(box),
-      pictures_(pictures),
-      inImage_(box.painting()),
-      focusRing_(new FocusRing(parent)) {
+    : QWidget(parent), box_(&box), hand_(box), shown_(box.painting(), pictures), focusRing_(new FocusRing(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.MouseMove != nullptr);
     setFocusPolicy(Qt::TabFocus);
@@ -95,14 +90,14 @@ void SurfaceWidget::scale(double scale) {
 void SurfaceWidget::changed() {
     if (!outOfDate_) {
         outOfDate_ = true;
-        const auto show = [this] { update(logicalRect(bringImageUpToDate())); };
+        const auto show = [this] { update(logicalRect(bringUpToDate())); };
         QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
     }
 }
 
 void SurfaceWidget::showNow() {
     if (outOfDate_) {
-        repaint(logicalRect(bringImageUpToDate()));
+        repaint(logicalRect(bringUpToDate()));
     }
 }
 
@@ -112,56 +107,47 @@ void SurfaceWidget::retire() {
 }
 
 /// The device pixels that the widget covers, wherever its edges come to lie between them.
-QSize SurfaceWidget::pixelSize() const {
+PixelSize SurfaceWidget::pixelSize() const {
     const QSizeF exact = QSizeF(size()) * pixelRatio(*this);
     return {static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))};
 }
 
-/// Returns the part of the image that is another, in device pixels.
-QRect SurfaceWidget::bringImageUpToDate() {
+/// Returns the part of the canvas that is another.
+PixelRect SurfaceWidget::bringUpToDate() {
     outOfDate_ = false;
     if (box_ == nullptr) {
         return {};
     }
-    const PixelScale scale = pixelScale();
-    const Painting& painting = box_->painting();
-    const bool anew = imageFactor_ != scale.factor() || image_.size() != pixelSize();
-    if (anew) {
-        if (imageFactor_ != 0 && imageFactor_ != scale.factor()) {
-            pictures_.clear();
-        }
-        imageFactor_ = scale.factor();
-        image_ = QImage(pixelSize(), QImage::Format_RGB32);
+    if (!canvas_ || canvas_->size() != pixelSize()) {
+        canvas_.emplace(pixelSize(), box_->painting().ground());
     }
-    const PixelRect all{.left = 0, .top = 0, .right = image_.width() - 1, .bottom = image_.height() - 1};
-    const PixelRect part = anew ? all : scale.pixels(painting.changedSince(inImage_)).intersected(all);
-    if (!part.empty()) {
-        replay(painting.ground(), painting.items(), scale, part, pictures_, image_);
-        inImage_ = painting;
-    }
-    return toQRect(part);
+    return shown_.bringUpToDate(*canvas_, box_->painting(), pixelScale());
 }
 
 // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
-QRect SurfaceWidget::logicalRect(const QRect& pixels) const {
+QRect SurfaceWidget::logicalRect(const PixelRect& pixels) const {
     const double ratio = pixelRatio(*this);
-    const QRectF logical(pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio);
-    return pixels.isEmpty() ? QRect() : logical.toAlignedRect().adjusted(-1, -1, 1, 1);
+    const QRectF logical(pixels.left / ratio, pixels.top / ratio, pixels.width() / ratio, pixels.height() / ratio);
+    return pixels.empty() ? QRect() : logical.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
 // The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
-    if (imageFactor_ != pixelScale().factor() || image_.size() != pixelSize()) {
-        bringImageUpToDate();
+    if (shown_.outgrown(pixelSize(), pixelScale())) {
+        bringUpToDate();
     }
+    if (!canvas_) {
+        return;
+    }
+    const QImage& image = canvas_->image();
     QPainter painter(this);
     // In device pixels, so that a fractional ratio resamples nothing.
     const double ratio = pixelRatio(*this);
     painter.scale(1 / ratio, 1 / ratio);
     for (const QRect& part : event->region()) {
         const QRectF pixels(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
-        const QRect whole = pixels.toAlignedRect() & image_.rect();
-        painter.drawImage(whole, image_, whole);
+        const QRect whole = pixels.toAlignedRect() & image.rect();
+        painter.drawImage(whole, image, whole);
     }
 }
 
@@ -232,7 +218,7 @@ void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
 
 void SurfaceWidget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        imageFactor_ = 0; // what has the window's colour is painted again
+        shown_.forget(); // what has the window's colour is painted again
         update();
     }
 }

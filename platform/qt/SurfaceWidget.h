@@ -1,11 +1,12 @@
 #pragma once
 
 #include "platform/Hand.h"
-#include "platform/qt/PaintingReplay.h"
+#include "platform/ShownPainting.h"
+#include "platform/qt/QtCanvas.h"
 
-#include <QImage>
-#include <QRect>
 #include <QWidget>
+
+#include <optional>
 
 namespace tumble {
 
@@ -49,19 +50,17 @@ protected:
 
 private:
     PixelScale pixelScale() const { return PixelScale(scale_ * pixelRatio(*this)); }
-    QSize pixelSize() const;
-    QRect bringImageUpToDate();
-    QRect logicalRect(const QRect& pixels) const;
+    PixelSize pixelSize() const;
+    PixelRect bringUpToDate();
+    QRect logicalRect(const PixelRect& pixels) const;
     void placeFocusRing();
     Point place(const QMouseEvent& event) const;
 
     PictureBox* box_; // null once retired
     Hand hand_;
-    PictureCache& pictures_;
+    ShownPainting shown_;
+    std::optional<QtCanvas> canvas_; // in device pixels, once it has been painted
     double scale_ = 1;
-    double imageFactor_ = 0; // at which the image was painted
-    QImage image_;           // in device pixels
-    Painting inImage_;       // what the image shows
     bool outOfDate_ = false;
     bool forgotten_ = false; // by the toolkit, that a button went down here and is held
     bool hidden_ = false;    // while a button was held

@@ -1,7 +1,8 @@
 #include "Windows.h"
 
 #include "packs/CardPack.h"
-#include "platform/qt/PaintingReplay.h"
+#include "platform/Replay.h"
+#include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
 #include "table/CardTracker.h"
 
@@ -86,17 +87,19 @@ protected:
     }
 
     QImage painted(QSize size) {
-        QImage image(size, QImage::Format_RGB32);
+        QtCanvas canvas({size.width(), size.height()}, tableGreen);
         const PixelScale scale(scaleOf(window) * window->devicePixelRatioF());
-        replay(tableGreen, log(), scale, {0, 0, size.width() - 1, size.height() - 1}, pictures, image);
-        return image;
+        for (const PaintItem& item : log()) {
+            paint(canvas, item, scale, pictures);
+        }
+        return canvas.image();
     }
 
     std::vector<PaintItem>& log() { return desktop.log; }
 
     PictureBox& box = mainMod.table().picTable;
     CardTracker tracker;
-    PictureCache pictures{{}};
+    PictureCache pictures{{}, decoded};
     QWidget* window = nullptr;
     QWidget* surface = nullptr;
     std::mt19937 random{1};

@@ -1,7 +1,8 @@
 #include "Windows.h"
 
 #include "cards/CardImages.h"
-#include "platform/qt/PaintingReplay.h"
+#include "platform/Replay.h"
+#include "platform/qt/QtCanvas.h"
 
 #include <QImage>
 #include <QLabel>
@@ -231,46 +232,16 @@ TEST_F(Windows, TheFocusAndTheDefaultButtonShowInEveryStyle) {
     QApplication::setStyle(usual);
 }
 
-TEST(PictureCacheTest, FallsBackToWhatCanBeShown) {
-    const auto painter = [](const Picture& picture, QSize size) {
-        QImage image(picture.Key == "known" ? size : QSize(), QImage::Format_RGB32);
-        image.fill(Qt::yellow);
-        return image;
-    };
-    PictureCache pictures(painter);
+TEST(QtCanvasTest, DecodesAndScalesAPicture) {
+    PictureCache pictures({}, decoded);
     constexpr std::array noise{std::byte{'G'}, std::byte{'I'}, std::byte{'F'}};
-    const Picture known("known", {});
-    const Picture empty("empty", {});
     const Picture broken("broken", noise);
-    const QSize size(82, 128);
-    EXPECT_EQ(pictures.image(known, size).pixelColor(41, 64), QColor(Qt::yellow));
-    EXPECT_EQ(pictures.image(CardImages::find("AceSpades"), size).pixelColor(41, 110), QColor(Qt::white));
-    for (const Picture* bad : {&empty, &broken}) {
-        const QImage& crossed = pictures.image(*bad, size);
-        EXPECT_EQ(crossed.size(), size);
-        EXPECT_EQ(crossed.pixelColor(41, 64), QColor(Qt::red));
-        EXPECT_EQ(crossed.pixelColor(41, 5), QColor(Qt::white));
-    }
-}
-
-TEST(PictureCacheTest, KeepsWhatIsUsed) {
-    int made = 0;
-    PictureCache pictures([&made](const auto&, QSize size) {
-        ++made;
-        return QImage(size, QImage::Format_RGB32);
-    });
-    const auto madeFor = [&, any = Picture("any", {})](int width) {
-        const int before = made;
-        EXPECT_EQ(pictures.image(any, {width, 1}).width(), width);
-        return made - before;
-    };
-    constexpr int inUse = 1;
-    EXPECT_EQ(madeFor(inUse), 1);
-    for (int width = 2; width <= 1000; ++width) {
-        EXPECT_EQ(madeFor(width) + madeFor(inUse), 1) << width;
-    }
-    EXPECT_EQ(madeFor(1000 - 104), 0) << "a table of two packs";
-    EXPECT_EQ(madeFor(2), 1) << "used long ago";
+    QtCanvas canvas({82, 128}, 0);
+    paint(canvas, CardImages::find("AceSpades"), canvas.bounds(), canvas.bounds(), pictures);
+    EXPECT_EQ(canvas.image().pixelColor(41, 110), QColor(Qt::white));
+    EXPECT_EQ(canvas.image().pixelColor(6, 26), QColor(Qt::black)) << "in the index";
+    paint(canvas, broken, canvas.bounds(), canvas.bounds(), pictures);
+    EXPECT_EQ(canvas.image().pixelColor(41, 64), QColor(Qt::red));
 }
 
 /// What the toolkit complains of during a test fails it.

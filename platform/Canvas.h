@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/Geometry.h"
+#include "platform/Path.h"
+#include "platform/Pixels.h"
+
+#include <memory>
+#include <optional>
+
+namespace tumble {
+
+/// Of round ones the ends and corners are round; of sharp ones the ends are flat and the corners pointed.
+enum class Nib { Round, Sharp };
+
+struct Pen {
+    Colour colour;
+    double width; ///< In the coordinates of the path.
+    Nib nib = Nib::Round;
+};
+
+/// What becomes of a block of pixels that is drawn: right and left changed, top and bottom, or both.
+enum class Turn { None, Mirrored, UpsideDown, Half };
+
+/// An image to paint on, and to draw on others of its kind: the role that a desktop's toolkit fills. It is in device
+/// pixels; what is outside, or outside the clip, does not show. Blocks are exact, the edges of paths smoothed where the
+/// toolkit does so, and what a path's outlines wind around is inside. No pixel can be read.
+class Canvas {
+public:
+    Canvas() = default;
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+    Canvas(Canvas&&) = delete;
+    Canvas& operator=(Canvas&&) = delete;
+    virtual ~Canvas() = default;
+
+    virtual PixelSize size() const = 0;
+    PixelRect bounds() const { return size().at({}); }
+
+    /// A new one: filled with a ground, or transparent without one. The size is at least one pixel each way.
+    virtual std::unique_ptr<Canvas> another(PixelSize size, std::optional<Colour> ground) const = 0;
+
+    /// Nothing shows outside the block from now on; of `bounds()`, everything does.
+    virtual void clip(const PixelRect& block) = 0;
+
+    virtual void fill(const PixelRect& block, Colour colour) = 0;
+    virtual void fill(const Path& path, const Transform& toPixels, Colour colour) = 0;
+    /// Fills with an image that repeats both ways, from the pixel in which it has its upper left corner.
+    virtual void fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) = 0;
+    virtual void stroke(const Path& path, const Transform& toPixels, const Pen& pen) = 0;
+    /// Draws a block of an image, which may be this one where the two blocks share no pixel, with its upper left corner
+    /// on a pixel.
+    virtual void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn = Turn::None) = 0;
+};
+
+} // namespace tumble

@@ -1,0 +1,155 @@
+#include "platform/qt/QtCanvas.h"
+
+#include "platform/Picture.h"
+
+#include <QGuiApplication>
+#include <QPainterPath>
+#include <QPalette>
+
+namespace tumble {
+
+namespace {
+
+QPointF toQPoint(Vec2 place) {
+    return {place.x, place.y};
+}
+
+QPainterPath toQPath(const Path& path) {
+    QPainterPath made;
+    made.setFillRule(Qt::WindingFill);
+    made.reserve(static_cast<int>(3 * path.steps().size()));
+    for (const auto& [verb, to, bends] : path.steps()) {
+        switch (verb) {
+        case Path::Verb::Move:
+            made.moveTo(toQPoint(to));
+            break;
+        case Path::Verb::Line:
+            made.lineTo(toQPoint(to));
+            break;
+        case Path::Verb::Curve:
+            made.cubicTo(toQPoint(bends[0]), toQPoint(bends[1]), toQPoint(to));
+            break;
+        case Path::Verb::Close:
+            made.closeSubpath();
+            break;
+        }
+    }
+    return made;
+}
+
+QTransform toQTransform(const Transform& transform) {
+    const auto& [right, down, origin] = transform;
+    return {right.x, right.y, down.x, down.y, origin.x, origin.y};
+}
+
+} // namespace
+
+QColor toQColor(Colour colour) {
+    if (colour == windowColour) {
+        return QGuiApplication::palette().color(QPalette::Window);
+    }
+    const auto [red, green, blue] = channels(colour);
+    return {red, green, blue};
+}
+
+// A rectangle without pixels would reach to the left and up from its place.
+QRect toQRect(const PixelRect& pixels) {
+    return pixels.empty() ? QRect() : QRect(QPoint(pixels.left, pixels.top), QPoint(pixels.right, pixels.bottom));
+}
+
+QtCanvas::QtCanvas(PixelSize size, std::optional<Colour> ground)
+    : image_(size.width, size.height, ground ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied) {
+    image_.fill(ground ? toQColor(*ground) : QColor(Qt::transparent));
+}
+
+const QImage& QtCanvas::image() const {
+    if (painter_.isActive()) {
+        painter_.end();
+    }
+    return image_;
+}
+
+std::unique_ptr<Canvas> QtCanvas::another(PixelSize size, std::optional<Colour> ground) const {
+    return std::make_unique<QtCanvas>(size, ground);
+}
+
+void QtCanvas::applyClip() const {
+    painter_.setClipRect(clip_.value_or(QRect()), clip_ ? Qt::ReplaceClip : Qt::NoClip);
+}
+
+QPainter& QtCanvas::exact() {
+    if (!painter_.isActive()) {
+        painter_.begin(&image_);
+        applyClip();
+    }
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.resetTransform();
+    return painter_;
+}
+
+QPainter& QtCanvas::smooth() {
+    exact().setRenderHint(QPainter::Antialiasing);
+    return painter_;
+}
+
+void QtCanvas::clip(const PixelRect& block) {
+    clip_ = block.contains(bounds()) ? std::nullopt : std::optional(toQRect(block));
+    exact();
+    applyClip();
+}
+
+void QtCanvas::fill(const PixelRect& block, Colour colour) {
+    if (!block.empty()) {
+        exact().fillRect(toQRect(block), toQColor(colour));
+    }
+}
+
+void QtCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
+    QPainter& painter = smooth();
+    painter.setTransform(toQTransform(toPixels));
+    painter.fillPath(toQPath(path), toQColor(colour));
+}
+
+void QtCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
+    QBrush brush(dynamic_cast<const QtCanvas&>(texture).image());
+    const QTransform transform = toQTransform(toPixels);
+    brush.setTransform(QTransform::fromTranslate(corner.x, corner.y) * transform.inverted());
+    QPainter& painter = smooth();
+    painter.setTransform(transform);
+    painter.fillPath(toQPath(path), brush);
+}
+
+void QtCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
+    const bool isRound = pen.nib == Nib::Round;
+    QPainter& painter = smooth();
+    painter.setTransform(toQTransform(toPixels));
+    painter.strokePath(toQPath(path),
+                       QPen(toQColor(pen.colour), pen.width, Qt::SolidLine, isRound ? Qt::RoundCap : Qt::FlatCap,
+                            isRound ? Qt::RoundJoin : Qt::MiterJoin));
+}
+
+void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+    if (block.empty()) {
+        return;
+    }
+    const auto& from = dynamic_cast<const QtCanvas&>(image);
+    const QImage& pixels = &from == this ? image_ : from.image();
+    if (turn == Turn::None) {
+        exact().drawImage(QPoint(at.x, at.y), pixels, toQRect(block));
+    } else {
+        const QImage part = pixels.copy(toQRect(block));
+        exact().drawImage(at.x, at.y, part.mirrored(turn != Turn::UpsideDown, turn != Turn::Mirrored));
+    }
+}
+
+std::unique_ptr<Canvas> decoded(const Picture& picture, PixelSize size) {
+    const auto* bytes = reinterpret_cast<const uchar*>(picture.data.data());
+    const QImage image = QImage::fromData(bytes, static_cast<int>(picture.data.size()));
+    if (image.isNull()) {
+        return nullptr;
+    }
+    const QImage scaled = image.scaled(size.width, size.height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return std::make_unique<QtCanvas>(scaled.convertToFormat(QImage::Format_RGB32));
+}
+
+} // namespace tumble
