@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Pinned.h"
+
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -9,13 +11,8 @@ namespace tumble {
 class Card;
 
 /// Decides whether a card dropped on a pile may stay there.
-class PileAccepter {
+class PileAccepter : private Pinned {
 public:
-    PileAccepter() = default;
-    PileAccepter(const PileAccepter&) = delete;
-    PileAccepter& operator=(const PileAccepter&) = delete;
-    PileAccepter(PileAccepter&&) = delete;
-    PileAccepter& operator=(PileAccepter&&) = delete;
     virtual ~PileAccepter() = default;
 
     /// `pileCard` stands for the pile on the table, `crd` is the card dropped on it. A refusal has been explained to
@@ -24,13 +21,8 @@ public:
 };
 
 /// A stack of cards as its pile card and the drag see it.
-class Pile {
+class Pile : private Pinned {
 public:
-    Pile() = default;
-    Pile(const Pile&) = delete;
-    Pile& operator=(const Pile&) = delete;
-    Pile(Pile&&) = delete;
-    Pile& operator=(Pile&&) = delete;
     virtual ~Pile() = default;
 
     /// The top card, left where it is; empty when there is none.

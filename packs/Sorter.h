@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Pinned.h"
+
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -9,13 +11,8 @@ namespace tumble {
 class Card;
 
 /// An order of cards.
-class CardOrder {
+class CardOrder : private Pinned {
 public:
-    CardOrder() = default;
-    CardOrder(const CardOrder&) = delete;
-    CardOrder& operator=(const CardOrder&) = delete;
-    CardOrder(CardOrder&&) = delete;
-    CardOrder& operator=(CardOrder&&) = delete;
     virtual ~CardOrder() = default;
 
     /// -1 when `card1` belongs below `card2`, 1 when above, 0 when the order does not tell them apart.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DrawingSurface.h"
+#include "platform/Pinned.h"
 
 #include <cstdint>
 #include <functional>
@@ -36,13 +37,8 @@ struct Font {
 };
 
 /// What holds controls: a form or a frame. The controls are its owner's members; it only lists them, in their order.
-class Container {
+class Container : private Pinned {
 public:
-    Container() = default;
-    Container(const Container&) = delete;
-    Container& operator=(const Container&) = delete;
-    Container(Container&&) = delete;
-    Container& operator=(Container&&) = delete;
     virtual ~Container() = default;
 
     virtual Form& form() = 0;
@@ -57,13 +53,9 @@ private:
 /// answer to what the player does, as a test does. On a form that takes no input a button does nothing. An ampersand
 /// marks a caption's access key; the caption of a picture box or a slider does not show, it is what a screen reader
 /// calls the control.
-class Control {
+class Control : private Pinned {
 public:
     Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
-    Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
-    Control(Control&&) = delete;
-    Control& operator=(Control&&) = delete;
 
     const std::string& Name() const { return name_; }
     const Place& place() const { return place_; }

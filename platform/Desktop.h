@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/Pinned.h"
 
 #include <cstdint>
 #include <string>
@@ -23,13 +24,9 @@ struct Application {
 };
 
 /// The windowing system as the game sees it.
-class Desktop {
+class Desktop : private Pinned {
 public:
     explicit Desktop(Application application);
-    Desktop(const Desktop&) = delete;
-    Desktop& operator=(const Desktop&) = delete;
-    Desktop(Desktop&&) = delete;
-    Desktop& operator=(Desktop&&) = delete;
     virtual ~Desktop() = default;
 
     const Application& App() const { return application_; }
@@ -59,13 +56,9 @@ public:
 
 protected:
     /// While it lives, only the modal form takes input; of a message box, which is none of the forms, no form does.
-    class Modal {
+    class Modal : private Pinned {
     public:
         explicit Modal(Desktop& desktop, const Form* form = nullptr);
-        Modal(const Modal&) = delete;
-        Modal& operator=(const Modal&) = delete;
-        Modal(Modal&&) = delete;
-        Modal& operator=(Modal&&) = delete;
         ~Modal();
 
     private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Painting.h"
+#include "platform/Pinned.h"
 
 #include <optional>
 
@@ -12,13 +13,9 @@ enum class BoxFill { Outline, Filled };
 
 /// Paints one item on a surface: open it for a place, paint, and the item is on the surface when the brush goes.
 /// Coordinates are the surface's twips; nothing shows outside the place.
-class Brush {
+class Brush : private Pinned {
 public:
     Brush(DrawingSurface& surface, const Rect& place);
-    Brush(const Brush&) = delete;
-    Brush& operator=(const Brush&) = delete;
-    Brush(Brush&&) = delete;
-    Brush& operator=(Brush&&) = delete;
     ~Brush();
 
     /// Scales the whole picture into the box; the picture must outlive the surface.
@@ -38,14 +35,10 @@ private:
 };
 
 /// What cards paint on. It keeps its painting, whatever covers the window.
-class DrawingSurface {
+class DrawingSurface : private Pinned {
 public:
     /// `width` and `height` in twips; the surface starts empty, showing `backColor`.
     DrawingSurface(float width, float height, Colour backColor);
-    DrawingSurface(const DrawingSurface&) = delete;
-    DrawingSurface& operator=(const DrawingSurface&) = delete;
-    DrawingSurface(DrawingSurface&&) = delete;
-    DrawingSurface& operator=(DrawingSurface&&) = delete;
     virtual ~DrawingSurface() = default;
 
     float Width() const { return width_; }

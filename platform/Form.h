@@ -17,10 +17,6 @@ class Form : public Container {
 public:
     /// Client size in twips.
     Form(std::string caption, float width, float height);
-    Form(const Form&) = delete;
-    Form& operator=(const Form&) = delete;
-    Form(Form&&) = delete;
-    Form& operator=(Form&&) = delete;
     ~Form() override;
 
     Form& form() override { return *this; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Pinned.h"
+
 #include <chrono>
 #include <functional>
 #include <random>
@@ -8,13 +10,8 @@
 namespace tumble {
 
 /// A pseudo-random generator.
-class Random {
+class Random : private Pinned {
 public:
-    Random() = default;
-    Random(const Random&) = delete;
-    Random& operator=(const Random&) = delete;
-    Random(Random&&) = delete;
-    Random& operator=(Random&&) = delete;
     virtual ~Random() = default;
 
     /// Seeds the generator from the system clock.

@@ -39,10 +39,6 @@ public:
 
     /// Puts itself in use, until it goes.
     explicit MemoryDesktop(Application application);
-    MemoryDesktop(const MemoryDesktop&) = delete;
-    MemoryDesktop& operator=(const MemoryDesktop&) = delete;
-    MemoryDesktop(MemoryDesktop&&) = delete;
-    MemoryDesktop& operator=(MemoryDesktop&&) = delete;
     ~MemoryDesktop() override;
 
     void Show(Form& form, Modality modality) override;

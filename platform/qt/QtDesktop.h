@@ -19,10 +19,6 @@ class QtDesktop : public Desktop {
 public:
     /// Puts itself in use, until it goes. Pictures that the painter does not know are scaled from their bytes.
     explicit QtDesktop(Application application, PicturePainter painter = {});
-    QtDesktop(const QtDesktop&) = delete;
-    QtDesktop& operator=(const QtDesktop&) = delete;
-    QtDesktop(QtDesktop&&) = delete;
-    QtDesktop& operator=(QtDesktop&&) = delete;
     ~QtDesktop() override;
 
     /// Handles events until the application ends.
