@@ -226,7 +226,7 @@ private:
 
     /// A window shows the painting as it is now, sometimes at another scale.
     void look() {
-        scale_ = PixelScale(1 + static_cast<double>(log().size() / 256 % 7) / 4);
+        scale_ = PixelScale(1 + static_cast<double>(log().size() / 16384 % 7) / 4);
         const PixelSize size = scale_.pixels(painting().bounds()).size();
         if (!window_ || window_->size() != size) {
             window_.emplace(size, painting().ground());
