@@ -19,7 +19,7 @@ public:
     Label lblTitle{*this, "lblTitle", "Tumble", {1050, 240, 1245, 480}, 2, {.points = 13.5F, .bold = true}};
     Label lblVersion{*this, "lblVersion", "Version 1.0", {1050, 780, 1365, 225}, 3};
     Label lblDisclaimer{*this, "lblDisclaimer", "\u00A9 2026 Tumble", {1080, 1200, 1455, 435}, 4};
-    CommandButton cmdOK{*this, "cmdOK", "OK", {3120, 1440, 1260, 345}, 0, [this] { cmdOK_Click(); }, ButtonKeys::EnterAndEsc};
+    CommandButton cmdOK{*this, "cmdOK", "OK", {3120, 1440, 1260, 345}, 0, [this] { cmdOK_Click(); }, {Key::Enter, Key::Esc}};
     // clang-format on
 };
 

@@ -40,7 +40,7 @@ public:
     Label lblCurrentCard{*this, "lblCurrentCard", "", {1560, 6240, 2775, 255}, 5};
     CommandButton cmdAbout{*this, "cmdAbout", "&About", {7200, 6240, 615, 375}, 3, [] { cmdAbout_Click(); }};
     CommandButton cmdHelp{*this, "cmdHelp", "&Help", {7920, 6240, 615, 375}, 2, [] { cmdHelp_Click(); }};
-    CommandButton cmdExit{*this, "cmdExit", "E&xit", {8640, 6240, 615, 375}, 1, [this] { cmdExit_Click(); }, ButtonKeys::Enter};
+    CommandButton cmdExit{*this, "cmdExit", "E&xit", {8640, 6240, 615, 375}, 1, [this] { cmdExit_Click(); }, {Key::Enter}};
     // clang-format on
 };
 

@@ -65,8 +65,8 @@ private:
 public:
     // The controls: container, name, caption, place (left, top, width, height), tab position, handler, tag.
     // clang-format off
-    CommandButton cmdPlay{*this, "cmdPlay", "&Play", {6360, 4200, 2055, 855}, 0, [this] { cmdPlay_Click(); }, ButtonKeys::Enter, ButtonFace::IconAboveCaption};
-    CommandButton cmdExit{*this, "cmdExit", "E&xit", {6360, 3720, 2055, 375}, 1, [this] { cmdExit_Click(); }, ButtonKeys::Esc};
+    CommandButton cmdPlay{*this, "cmdPlay", "&Play", {6360, 4200, 2055, 855}, 0, [this] { cmdPlay_Click(); }, {Key::Enter}, ButtonFace::IconAboveCaption};
+    CommandButton cmdExit{*this, "cmdExit", "E&xit", {6360, 3720, 2055, 375}, 1, [this] { cmdExit_Click(); }, {Key::Esc}};
 
     Frame fraCardSize{*this, "fraCardSize", "Card Size", {120, 120, 2895, 2415}, 2, {.bold = true}};
     OptionButton optCardSmall{fraCardSize, "optCardSmall", "Small", {240, 240, 855, 375}, 3, [this] { optCardSmall_Click(); }};

@@ -2,6 +2,7 @@
 
 #include "platform/Geometry.h"
 #include "platform/Path.h"
+#include "platform/Pinned.h"
 #include "platform/Pixels.h"
 
 #include <memory>
@@ -24,13 +25,8 @@ enum class Turn { None, Mirrored, UpsideDown, Half };
 /// An image to paint on, and to draw on others of its kind: the role that a desktop's toolkit fills. It is in device
 /// pixels; what is outside, or outside the clip, does not show. Blocks are exact, the edges of paths smoothed where the
 /// toolkit does so, and what a path's outlines wind around is inside. No pixel can be read.
-class Canvas {
+class Canvas : Pinned {
 public:
-    Canvas() = default;
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-    Canvas(Canvas&&) = delete;
-    Canvas& operator=(Canvas&&) = delete;
     virtual ~Canvas() = default;
 
     virtual PixelSize size() const = 0;

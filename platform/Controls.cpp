@@ -43,11 +43,11 @@ Label::Label(Container& container, std::string name, std::string caption, const 
 }
 
 CommandButton::CommandButton(Container& container, std::string name, std::string caption, const Place& place,
-                             int tabIndex, Handler click, ButtonKeys pressedBy, ButtonFace look)
+                             int tabIndex, Handler click, std::vector<Key> pressedBy, ButtonFace look)
     : Control(container, std::move(name), std::move(caption), place, tabIndex),
-      keys(pressedBy),
       face(look),
-      click_(std::move(click)) {
+      click_(std::move(click)),
+      keys_(std::move(pressedBy)) {
     container.add(this);
 }
 
@@ -55,6 +55,10 @@ void CommandButton::Click() const {
     if (takesInput()) {
         click_();
     }
+}
+
+bool CommandButton::pressedBy(Key key) const {
+    return std::find(keys_.begin(), keys_.end(), key) != keys_.end();
 }
 
 OptionButton::OptionButton(Container& container, std::string name, std::string caption, const Place& place,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/DrawingSurface.h"
+#include "platform/Keys.h"
 #include "platform/Pinned.h"
 
 #include <cstdint>
@@ -42,6 +43,8 @@ public:
     virtual ~Container() = default;
 
     virtual Form& form() = 0;
+    /// In twips.
+    virtual float Width() const = 0;
     const std::vector<AnyControl>& controls() const { return controls_; }
     void add(AnyControl control) { controls_.push_back(control); }
 
@@ -109,25 +112,22 @@ public:
     const TextAlign align;
 };
 
-/// Which keys press a button wherever the focus is.
-enum class ButtonKeys { None, Enter, Esc, EnterAndEsc };
-
 enum class ButtonFace { Caption, IconAboveCaption };
 
 class CommandButton : public Control {
 public:
     CommandButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
-                  Handler click, ButtonKeys pressedBy = ButtonKeys::None, ButtonFace look = ButtonFace::Caption);
+                  Handler click, std::vector<Key> pressedBy = {}, ButtonFace look = ButtonFace::Caption);
 
     void Click() const;
-    bool pressedByEnter() const { return keys == ButtonKeys::Enter || keys == ButtonKeys::EnterAndEsc; }
-    bool pressedByEsc() const { return keys == ButtonKeys::Esc || keys == ButtonKeys::EnterAndEsc; }
+    /// Whether the key presses it wherever the focus is.
+    bool pressedBy(Key key) const;
 
-    const ButtonKeys keys;
     const ButtonFace face;
 
 private:
     Handler click_;
+    std::vector<Key> keys_;
 };
 
 enum class Choice { Open, Selected };
@@ -155,6 +155,7 @@ public:
     Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font);
 
     Form& form() override { return Control::container().form(); }
+    float Width() const override { return place().Width; }
 
     const Font font;
 };

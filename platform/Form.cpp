@@ -3,8 +3,28 @@
 #include "platform/Desktop.h"
 
 #include <utility>
+#include <variant>
 
 namespace tumble {
+
+namespace {
+
+const CommandButton* buttonPressedBy(Key key, const Container& container) {
+    for (const AnyControl& control : container.controls()) {
+        const CommandButton* found = nullptr;
+        if (auto* const* button = std::get_if<CommandButton*>(&control)) {
+            found = (*button)->pressedBy(key) ? *button : nullptr;
+        } else if (auto* const* frame = std::get_if<Frame*>(&control)) {
+            found = buttonPressedBy(key, **frame);
+        }
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
 
 Form::Form(std::string caption, float width, float height)
     : caption_(std::move(caption)), width_(width), height_(height) {}
@@ -39,6 +59,12 @@ void Form::Refresh() {
 void Form::MousePointer(Pointer pointer) {
     pointer_ = pointer;
     desktop().MousePointer(*this, pointer);
+}
+
+void Form::press(Key key) const {
+    if (const CommandButton* button = buttonPressedBy(key, *this)) {
+        button->Click();
+    }
 }
 
 } // namespace tumble

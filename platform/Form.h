@@ -23,7 +23,7 @@ public:
     const std::string& Caption() const { return caption_; }
     /// Shows the next time the form is loaded.
     void Caption(std::string caption) { caption_ = std::move(caption); }
-    float Width() const { return width_; }
+    float Width() const override { return width_; }
     float Height() const { return height_; }
 
     /// Loads the form if it is not loaded and shows it, centred on the screen. Modal: no other form takes input, and
@@ -37,6 +37,9 @@ public:
     /// While the hourglass shows, the form takes no input and each painting reaches the screen as it is made.
     void MousePointer(Pointer pointer);
     Pointer MousePointer() const { return pointer_; }
+
+    /// Presses the button that the key stands for, if there is one.
+    void press(Key key) const;
 
     /// Runs when the form is loaded, before it shows.
     virtual void Form_Load() {}

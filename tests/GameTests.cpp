@@ -113,8 +113,8 @@ std::string designOf(const Container& container) {
              << control->Caption() << "'";
         if constexpr (requires { control->font; }) {
             text << " " << control->font.points << (control->font.bold ? " bold" : "");
-        } else if constexpr (requires { control->keys; }) {
-            text << (control->pressedByEnter() ? " Enter" : "") << (control->pressedByEsc() ? " Esc" : "")
+        } else if constexpr (requires { control->face; }) {
+            text << (control->pressedBy(Key::Enter) ? " Enter" : "") << (control->pressedBy(Key::Esc) ? " Esc" : "")
                  << (control->face == ButtonFace::IconAboveCaption ? " icon" : "");
         }
         if constexpr (requires { control->align; }) {

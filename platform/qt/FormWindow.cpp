@@ -2,16 +2,17 @@
 
 #include "platform/Desktop.h"
 #include "platform/qt/Buttons.h"
-#include "platform/qt/Captions.h"
+#include "platform/qt/KeyFilter.h"
 #include "platform/qt/SurfaceWidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QSlider>
 #include <QWindow>
-#include <QtMath>
 
 #include <algorithm>
 #include <variant>
@@ -22,56 +23,53 @@ namespace {
 
 constexpr Qt::WindowStates wholeScreen = Qt::WindowMaximized | Qt::WindowFullScreen;
 
-QSizeF unscaledSize(float width, float height) {
-    return QSizeF(static_cast<double>(width), static_cast<double>(height)) / static_cast<double>(twipsPerPixel);
-}
-
-QSizeF largestForm() {
+FormSize largestForm() {
     const Application& App = desktop().App();
-    return unscaledSize(App.Width, App.Height);
+    return {App.Width, App.Height};
 }
 
-constexpr float tallLabel = 600; // twips, as below: the caption of a higher one wraps
-constexpr float optionGap = 45;
-constexpr float mostToTheRight = 240;
-
-// The place that a control's widget gets in a container of the width. An option button shows no border: its caption may
-// use half of the space to its neighbours above and below, and some of that on its right.
-
-Place roomOf(const Control& control, float /*width*/) {
-    return control.place();
+QSize toQSize(PixelSize size) {
+    return {size.width, size.height};
 }
 
-Place roomOf(const OptionButton& option, float width) {
-    const Place room = option.place();
-    const float end = room.Left + room.Width;
-    float free = room.Height;
-    float right = std::min(width - end - optionGap, mostToTheRight);
-    for (const AnyControl& any : option.container().controls()) {
-        const Control& other = *std::visit([](const Control* control) { return control; }, any);
-        const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
-        const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
-        const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;
-        if (gap < 0 && otherLeft > room.Left) {
-            right = std::min(right, otherLeft - end - optionGap);
-        }
-        if (&other != &option && !sideways) {
-            free = std::clamp(gap, 0.0F, free);
-        }
+PixelSize toPixelSize(QSize size) {
+    return {size.width(), size.height()};
+}
+
+PixelRect toPixelRect(const QRect& rect) {
+    return {.left = rect.left(), .top = rect.top(), .right = rect.right(), .bottom = rect.bottom()};
+}
+
+QFont toQFont(const CaptionFont& caption) {
+    QFont font = QApplication::font();
+    font.setBold(caption.bold);
+    font.setPointSizeF(caption.points * 96 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
+    if (caption.stretch != 100) {
+        font.setStretch(caption.stretch);
     }
-    return {room.Left, room.Top - free / 2, room.Width + std::max(right, 0.0F), room.Height + free};
+    return font;
 }
 
-bool isEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+TextSize measure(const std::string& text, const CaptionFont& font, std::optional<int> width) {
+    const QFontMetrics metrics(toQFont(font));
+    const int flags = Qt::TextShowMnemonic | (width ? Qt::TextWordWrap : 0);
+    const QRect room(0, 0, width.value_or(0), 0);
+    const QSize size = metrics.boundingRect(room, flags, QString::fromStdString(text)).size();
+    return {size.width(), size.height(), metrics.lineSpacing()};
 }
 
-constexpr int darkerBeside = 120;      // percent
-constexpr QSize buttonMargin(8, 4);    // logical pixels
-constexpr int iconSize = 32;           // logical pixels at scale 1
-constexpr int frameCaptionHeight = 16; // likewise
+Captions::SetFont fontOf(QWidget* widget) {
+    return [widget](const CaptionFont& font) { widget->setFont(toQFont(font)); };
+}
+
+constexpr int darkerBeside = 120;   // percent
+constexpr QSize buttonMargin(8, 4); // logical pixels
 
 } // namespace
+
+ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame) {
+    return {toPixelRect(screen.availableGeometry()), toPixelSize(screen.size()), screen.devicePixelRatio(), frame};
+}
 
 FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon,
                        PictureCache& pictures)
@@ -79,9 +77,10 @@ FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before,
       form_(&form),
       icon_(icon),
       pictures_(pictures),
-      formSize_(unscaledSize(form.Width(), form.Height())),
-      scale_(before.scale),
-      frame_(before.frame) {
+      formSize_(form.Width(), form.Height()),
+      layout_{.scale = before.scale},
+      frame_(before.frame),
+      captions_(measure) {
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
     if (before.screen != nullptr) {
@@ -98,17 +97,17 @@ FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before,
     }
     windowHandle()->installEventFilter(this);
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
-    buildControls(form, form.Width(), this);
+    buildControls(form, this);
     setTabOrderByIndex();
     layOut();
 }
 
 WindowPlace FormWindow::place() const {
-    return {screen(), frame_, windowState() & wholeScreen, scale_};
+    return {screen(), frame_, windowState() & wholeScreen, scale()};
 }
 
-ScreenRoom FormWindow::room() const {
-    return {*screen(), frame_};
+QRect FormWindow::placeOver(QSize content) const {
+    return toQRect(room().place(toPixelSize(content), toPixelRect(geometry())));
 }
 
 void FormWindow::followScreen(QScreen* screen) {
@@ -119,25 +118,20 @@ void FormWindow::followScreen(QScreen* screen) {
 }
 
 void FormWindow::keepLeastSize() {
-    setMinimumSize(sizeAt(room().leastScale(largestForm())));
+    setMinimumSize(toQSize(formSize_.at(room().leastScale(largestForm()))));
 }
 
 QRect FormWindow::openingPlace() const {
-    const double scale = isModal() ? scale_ : room().openingScale(largestForm());
-    return room().place(sizeAt(std::min(scale, room().largestScale(formSize_))), room().inside());
+    const double wanted = isModal() ? scale() : room().openingScale(largestForm());
+    const PixelSize content = formSize_.at(std::min(wanted, room().largestScale(formSize_)));
+    return toQRect(room().place(content, room().inside()));
 }
 
 void FormWindow::changed(const Control& control) {
     if (const auto update = updates_.find(&control); update != updates_.end()) {
         update->second();
     }
-    const auto group = std::find_if(captions_.begin(), captions_.end(), [&](const Captions& captions) {
-        return std::any_of(captions.each.begin(), captions.each.end(),
-                           [&](const auto& each) { return each.control == &control; });
-    });
-    if (group != captions_.end()) {
-        fit(*group);
-    }
+    captions_.fit(control, scale());
 }
 
 SurfaceWidget* FormWindow::surface(const PictureBox& box) const {
@@ -183,7 +177,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         learnFrame();
     }
     // Some themes give Enter to the button that has the focus; here it is the default button's.
-    if (watched->isWidgetType() && event->type() == QEvent::KeyPress && isEnter(static_cast<QKeyEvent&>(*event))) {
+    if (watched->isWidgetType() && event->type() == QEvent::KeyPress &&
+        keyOf(static_cast<QKeyEvent&>(*event)) == Key::Enter) {
         keyPressEvent(static_cast<QKeyEvent*>(event));
         return true;
     }
@@ -194,7 +189,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 void FormWindow::learnFrame() {
     if (!frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
         const bool asOpened = size() == openingPlace().size();
-        frame_ = windowHandle()->frameMargins();
+        const QMargins margins = windowHandle()->frameMargins();
+        frame_ = {margins.left(), margins.top(), margins.right(), margins.bottom()};
         keepLeastSize();
         if (asOpened) {
             setGeometry(openingPlace());
@@ -203,23 +199,21 @@ void FormWindow::learnFrame() {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F11 && !isModal()) {
+    const std::optional<Key> key = keyOf(*event);
+    if (key == Key::F11 && !isModal()) {
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-        return;
-    }
-    QAbstractButton* button = isEnter(*event) ? enterButton_ : event->key() == Qt::Key_Escape ? escButton_ : nullptr;
-    if (button != nullptr) {
-        button->click();
+    } else if (key && form_ != nullptr) {
+        form_->press(*key);
     }
 }
 
-void FormWindow::buildControls(const Container& container, float width, QWidget* parent) {
+void FormWindow::buildControls(const Container& container, QWidget* parent) {
     const auto add = [&](auto* control) {
         QWidget* widget = build(*control, parent);
         widget->setObjectName(QString::fromStdString(control->Name()));
         widget->setStyle(&style_);
         widget->installEventFilter(this);
-        placed_.push_back({widget, roomOf(*control, width)});
+        placed_.push_back({widget, roomOf(*control)});
         byTabIndex_.emplace(control->TabIndex(), widget);
     };
     for (const AnyControl& control : container.controls()) {
@@ -239,8 +233,8 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    addCaption(label, label.font, label.place().Height < tallLabel ? Wrap::No : Wrap::Freely, widget,
-               [widget] { return widget->size(); });
+    captions_.add(
+        label, captionStyle(label), [widget] { return toPixelSize(widget->size()); }, fontOf(widget));
     updates_.emplace(&label, [&label, widget] { widget->setText(QString::fromStdString(label.Caption())); });
     return widget;
 }
@@ -253,12 +247,11 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
     } else {
         widget = new FormButton(parent);
     }
-    widget->setDefault(button.pressedByEnter());
-    enterButton_ = button.pressedByEnter() ? widget : enterButton_;
-    escButton_ = button.pressedByEsc() ? widget : escButton_;
-    addCaption(button, {}, Wrap::No, widget, [widget] { return widget->size() - buttonMargin; });
+    widget->setDefault(button.pressedBy(Key::Enter));
+    captions_.add(
+        button, captionStyle(button), [widget] { return toPixelSize(widget->size() - buttonMargin); }, fontOf(widget));
     updates_.emplace(&button, [this, &button, widget] {
-        widget->setIconSize(QSize(iconSize, iconSize) * scale_);
+        widget->setIconSize(QSize(buttonIconSize, buttonIconSize) * scale());
         widget->setText(QString::fromStdString(button.Caption()));
     });
     connect(widget, &QPushButton::clicked, this, [&button] { button.Click(); });
@@ -267,7 +260,8 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
 
 QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     auto* widget = new WrappingRadioButton(parent);
-    addCaption(option, {}, Wrap::Twice, widget, [widget] { return widget->captionRoom().size(); });
+    captions_.add(
+        option, captionStyle(option), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
     updates_.emplace(&option, [&option, widget] {
         widget->setText(QString::fromStdString(option.Caption()));
         widget->setChecked(option.Value());
@@ -285,12 +279,13 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
 
 QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
     auto* widget = new CaptionedFrame(parent);
-    addCaption(frame, frame.font, Wrap::No, widget, [widget] { return widget->captionRoom().size(); });
+    captions_.add(
+        frame, captionStyle(frame), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
     updates_.emplace(&frame, [this, &frame, widget] {
-        widget->captionHeight(qRound(frameCaptionHeight * scale_));
+        widget->captionHeight(qRound(frameCaptionHeight * scale()));
         widget->setTitle(QString::fromStdString(frame.Caption()));
     });
-    buildControls(frame, frame.place().Width, widget);
+    buildControls(frame, widget);
     return widget;
 }
 
@@ -311,36 +306,10 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     return widget;
 }
 
-void FormWindow::addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget,
-                            std::function<QSize()> room) {
-    const auto alike = std::find_if(captions_.begin(), captions_.end(), [&](const Captions& captions) {
-        return captions.container == &control.container() && captions.font == font && captions.wrap == wrap;
-    });
-    Captions& captions = alike != captions_.end() ? *alike : captions_.emplace_back(&control.container(), font, wrap);
-    captions.each.push_back({&control, widget, std::move(room)});
-}
-
-void FormWindow::fit(const Captions& captions) const {
-    std::vector<CaptionInRoom> inRooms;
-    for (const auto& [control, widget, room] : captions.each) {
-        inRooms.push_back({QString::fromStdString(control->Caption()), room()});
-    }
-    const QFont font = captionFont(captions.font, scale_, inRooms, captions.wrap);
-    for (const auto& [control, widget, room] : captions.each) {
-        widget->setFont(font);
-    }
-}
-
-QRect FormWindow::contentPlace() const {
-    const QSize content = sizeAt(scale_);
-    const QSize margins = (size() - content) / 2;
-    return {QPoint(margins.width(), margins.height()), content};
-}
-
 // Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
 void FormWindow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setClipRegion(QRegion(rect()) - contentPlace().adjusted(-1, -1, 1, 1));
+    painter.setClipRegion(QRegion(rect()) - toQRect(layout_.content).adjusted(-1, -1, 1, 1));
     painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
 }
 
@@ -351,26 +320,18 @@ void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void FormWindow::layOut() {
-    scale_ = showable(std::min(width() / formSize_.width(), height() / formSize_.height()), pixelRatio(*this));
-    style_.scale(scale_);
-    const QPoint corner = contentPlace().topLeft();
-    const auto pixel = [this](float twips) {
-        return qFloor(static_cast<double>(twips) * scale_ / static_cast<double>(twipsPerPixel));
-    };
+    layout_ = layoutOf(formSize_, toPixelSize(size()), pixelRatio(*this));
+    style_.scale(scale());
+    const QPoint corner(layout_.content.left, layout_.content.top);
     for (const auto& [widget, room] : placed_) {
-        const QPoint origin = widget->parent() == this ? corner : QPoint();
-        const QPoint first(pixel(room.Left), pixel(room.Top));
-        const QPoint end(pixel(room.Left + room.Width), pixel(room.Top + room.Height));
-        widget->setGeometry(QRect(origin + first, origin + end - QPoint(1, 1)));
+        widget->setGeometry(toQRect(layout_.pixels(room)).translated(widget->parent() == this ? corner : QPoint()));
     }
     for (const auto& [control, update] : updates_) {
         update();
     }
-    for (const Captions& captions : captions_) {
-        fit(captions);
-    }
+    captions_.fit(scale());
     for (const auto& [box, surface] : surfaces_) {
-        surface->scale(scale_);
+        surface->scale(scale());
     }
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "platform/Captions.h"
 #include "platform/Form.h"
 #include "platform/PictureCache.h"
-#include "platform/qt/Captions.h"
+#include "platform/ScreenRoom.h"
 #include "platform/qt/ScaledStyle.h"
-#include "platform/qt/ScreenRoom.h"
 
 #include <QIcon>
-#include <QMargins>
 #include <QPointer>
 #include <QScreen>
 #include <QWidget>
@@ -17,8 +16,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-class QAbstractButton;
 
 namespace tumble {
 
@@ -30,11 +27,14 @@ inline constexpr Qt::WindowFlags dialogFlags =
 
 /// Where and how a window stands; the next one opens likewise.
 struct WindowPlace {
-    QPointer<QScreen> screen;        // null: the first one
-    std::optional<QMargins> frame{}; // once the windowing system has made one
-    Qt::WindowStates state{};        // maximised, full screen
-    double scale = 1;                // logical pixels for each 15 twips
+    QPointer<QScreen> screen;           // null: the first one
+    std::optional<WindowFrame> frame{}; // once the windowing system has made one
+    Qt::WindowStates state{};           // maximised, full screen
+    double scale = 1;                   // logical pixels for each 15 twips
 };
+
+/// The room that a screen has for windows, in logical pixels.
+ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame);
 
 /// Shows a form as a window of its own and reports to the form's controls what the player does. The content keeps the
 /// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1, or as large
@@ -46,10 +46,12 @@ public:
     FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon, PictureCache& pictures);
 
     /// The scale that the window's size gives.
-    double scale() const { return scale_; }
+    double scale() const { return layout_.scale; }
     WindowPlace place() const;
     /// What its screen has for it and for others with a frame like its own.
-    ScreenRoom room() const;
+    ScreenRoom room() const { return roomOn(*screen(), frame_); }
+    /// The place for another window of that size over this one.
+    QRect placeOver(QSize content) const;
 
     /// Shows a control's new state.
     void changed(const Control& control);
@@ -70,7 +72,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void buildControls(const Container& container, float width, QWidget* parent); // width in twips
+    void buildControls(const Container& container, QWidget* parent);
     QWidget* build(PictureBox& box, QWidget* parent);
     QWidget* build(Label& label, QWidget* parent);
     QWidget* build(CommandButton& button, QWidget* parent);
@@ -81,27 +83,7 @@ private:
     void followScreen(QScreen* screen);
     void keepLeastSize();
     QRect openingPlace() const;
-    QSize sizeAt(double scale) const { return (formSize_ * scale).toSize(); }
     void layOut();
-    QRect contentPlace() const;
-    void addCaption(const Control& control, const Font& font, Wrap wrap, QWidget* widget, std::function<QSize()> room);
-
-    /// Captions of one container that are alike, and so have one size.
-    struct Captions {
-        struct Each {
-            const Control* control;
-            QWidget* widget;
-            std::function<QSize()> room; // logical pixels
-        };
-        Captions(const Container* owner, const Font& wanted, Wrap wrapping)
-            : container(owner), font(wanted), wrap(wrapping) {}
-
-        const Container* container;
-        Font font;
-        Wrap wrap;
-        std::vector<Each> each;
-    };
-    void fit(const Captions& captions) const;
     void learnFrame();
 
     struct Placed {
@@ -112,16 +94,14 @@ private:
     Form* form_; // null once retired
     QIcon icon_;
     PictureCache& pictures_;
-    QSizeF formSize_; // logical pixels at scale 1
-    double scale_;
-    std::optional<QMargins> frame_;
+    FormSize formSize_;
+    Layout layout_;
+    std::optional<WindowFrame> frame_;
     ScaledStyle style_;
     std::vector<Placed> placed_;
-    QAbstractButton* enterButton_ = nullptr;
-    QAbstractButton* escButton_ = nullptr;
     std::map<const PictureBox*, SurfaceWidget*> surfaces_;
     std::map<const Control*, std::function<void()>> updates_;
-    std::vector<Captions> captions_;
+    Captions captions_;
     std::multimap<int, QWidget*> byTabIndex_;
 };
 

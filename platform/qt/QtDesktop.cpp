@@ -69,7 +69,7 @@ protected:
     void showEvent(QShowEvent* event) override {
         QMessageBox::showEvent(event);
         if (const auto* parent = dynamic_cast<const FormWindow*>(parentWidget())) {
-            setGeometry(parent->room().place(size(), parent->geometry()));
+            setGeometry(parent->placeOver(size()));
         }
     }
 };
@@ -97,7 +97,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
     announceSurfaces();
-    qApp->installEventFilter(&heldKeys_);
+    qApp->installEventFilter(&keyFilter_);
     desktop(this);
 }
 
@@ -189,7 +189,7 @@ void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    const ScreenRoom room = parent != nullptr ? parent->room() : ScreenRoom(*box.screen(), lastPlace_.frame);
+    const ScreenRoom room = parent != nullptr ? parent->room() : roomOn(*box.screen(), lastPlace_.frame);
     fitToScale(box, parent != nullptr ? parent->scale() : 1, widestBox(room.inside().width()));
     {
         const Modal modal(*this);

@@ -4,7 +4,7 @@
 #include "platform/PictureCache.h"
 #include "platform/Random.h"
 #include "platform/qt/FormWindow.h"
-#include "platform/qt/HeldKeys.h"
+#include "platform/qt/KeyFilter.h"
 
 #include <QIcon>
 #include <QPointer>
@@ -49,7 +49,7 @@ private:
 
     PictureCache pictures_;
     QIcon icon_;
-    HeldKeys heldKeys_;
+    KeyFilter keyFilter_;
     std::vector<Shown> windows_; // in the order of their showing
     WindowPlace lastPlace_;
     ClockRandom random_;

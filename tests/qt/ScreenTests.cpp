@@ -29,18 +29,8 @@ struct TestScreen {
 
 // Side by side. The first, where the other tests play, grows with QT_SCALE_FACTOR.
 constexpr std::array testScreens{
-    TestScreen{800, 600, 1, 1},
-    TestScreen{800, 480, 1, 1},
-    TestScreen{1366, 768, 1, 1.375},
-    TestScreen{1280, 800, 1, 1.375},
-    TestScreen{1920, 1080, 1, 1.875},
-    TestScreen{3840, 2160, 1, 3.875},
-    TestScreen{1920, 1080, 2, 1.875},
-    TestScreen{683, 384, 2, 380 / 442.0},
-    TestScreen{640, 400, 2, 396 / 442.0},
-    TestScreen{640, 360, 3, 356 / 442.0},
-    TestScreen{600, 1024, 1, 596 / 635.0},
-    TestScreen{400, 300, 1, 0.75},
+    TestScreen{800, 600, 1, 1},           TestScreen{1280, 800, 1, 1.375}, TestScreen{1920, 1080, 2, 1.875},
+    TestScreen{640, 360, 3, 356 / 442.0}, TestScreen{400, 300, 1, 0.75},
 };
 
 } // namespace
@@ -153,7 +143,7 @@ TEST_P(EachScreen, HoldsWhatOpensThere) {
 INSTANTIATE_TEST_SUITE_P(Screens, EachScreen, testing::Range(0, static_cast<int>(testScreens.size())));
 
 TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
-    QScreen* screen = screenAt(3);
+    QScreen* screen = screenAt(1);
     const auto f11 = [](QWidget* window) {
         QTest::keyClick(window, Qt::Key_F11);
         QCoreApplication::processEvents();

@@ -28,6 +28,10 @@ public:
 /// The file that tells the offscreen platform of the tests' screens.
 QByteArray screensFile();
 
+inline double scaleOf(const QWidget* window) {
+    return dynamic_cast<const FormWindow*>(window)->scale();
+}
+
 /// The game on the real desktop, driven through its windows.
 class Windows : public testing::Test {
 protected:
@@ -62,8 +66,6 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(table));
         return table;
     }
-
-    static double scaleOf(const QWidget* window) { return dynamic_cast<const FormWindow*>(window)->scale(); }
 
     /// Below scale 1 as on a screen that is too small for it.
     static void resizeTo(double scale, QWidget* window) {

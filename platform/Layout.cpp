@@ -1,0 +1,81 @@
+#include "platform/Layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <variant>
+
+namespace tumble {
+
+namespace {
+
+constexpr double largestFactor = 16; // device pixels for each 15 twips
+constexpr float optionGap = 45;      // twips, as below
+constexpr float mostToTheRight = 240;
+
+double unscaled(float twips) {
+    return static_cast<double>(twips) / static_cast<double>(twipsPerPixel);
+}
+
+int rounded(double pixels) {
+    return static_cast<int>(std::lround(pixels));
+}
+
+} // namespace
+
+FormSize::FormSize(float Width, float Height) : width(unscaled(Width)), height(unscaled(Height)) {}
+
+PixelSize FormSize::at(double scale) const {
+    return {rounded(width * scale), rounded(height * scale)};
+}
+
+double FormSize::scaleToFit(double roomWidth, double roomHeight) const {
+    return std::min(roomWidth / width, roomHeight / height);
+}
+
+double showable(double scale, double ratio) {
+    return std::clamp(scale, static_cast<double>(leastFactor) / ratio, largestFactor / ratio);
+}
+
+PixelRect Layout::pixels(const Place& place) const {
+    const auto pixel = [this](float twips) {
+        return static_cast<int>(std::floor(static_cast<double>(twips) * scale / static_cast<double>(twipsPerPixel)));
+    };
+    return {.left = pixel(place.Left),
+            .top = pixel(place.Top),
+            .right = pixel(place.Left + place.Width) - 1,
+            .bottom = pixel(place.Top + place.Height) - 1};
+}
+
+Layout layoutOf(const FormSize& form, PixelSize window, double ratio) {
+    const double scale = showable(form.scaleToFit(window.width, window.height), ratio);
+    const auto [width, height] = form.at(scale);
+    const int left = rounded((window.width - width) / 2.0);
+    const int top = rounded((window.height - height) / 2.0);
+    return {.scale = scale, .content = form.at(scale).at({left, top})};
+}
+
+Place roomOf(const Control& control) {
+    return control.place();
+}
+
+Place roomOf(const OptionButton& option) {
+    const Place room = option.place();
+    const float end = room.Left + room.Width;
+    float free = room.Height;
+    float right = std::min(option.container().Width() - end - optionGap, mostToTheRight);
+    for (const AnyControl& any : option.container().controls()) {
+        const Control& other = *std::visit([](const Control* control) { return control; }, any);
+        const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
+        const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
+        const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;
+        if (gap < 0 && otherLeft > room.Left) {
+            right = std::min(right, otherLeft - end - optionGap);
+        }
+        if (&other != &option && !sideways) {
+            free = std::clamp(gap, 0.0F, free);
+        }
+    }
+    return {room.Left, room.Top - free / 2, room.Width + std::max(right, 0.0F), room.Height + free};
+}
+
+} // namespace tumble

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/Keys.h"
+
+#include <QObject>
+
+#include <optional>
+
+class QKeyEvent;
+
+namespace tumble {
+
+std::optional<Key> keyOf(const QKeyEvent& event);
+
+/// An event filter of the application: what the keyboard repeats goes nowhere.
+class KeyFilter : public QObject {
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    HeldKeys held_;
+};
+
+} // namespace tumble
