@@ -29,6 +29,7 @@ struct Place {
     float Top;
     float Width;
     float Height;
+    friend bool operator==(const Place&, const Place&) = default;
 };
 
 struct Font {
