@@ -23,6 +23,8 @@ frmTumble::frmTumble(const std::unique_ptr<CardTracker>& tableTracker)
     picTable.MouseDown = [this](auto... event) { picTable_MouseDown(event...); };
     picTable.MouseMove = [this](auto... event) { picTable_MouseMove(event...); };
     picTable.MouseUp = [this](auto... event) { picTable_MouseUp(event...); };
+    lblCurrentCardLabel.names = &lblCurrentCard;
+    lblCurrentCard.describes = &picTable;
 }
 
 void frmTumble::picTable_MouseDown(std::int16_t Button, std::int16_t /*Shift*/, float X, float Y) {

@@ -18,7 +18,9 @@ void centre(Card& crd, const PictureBox& box) {
 } // namespace
 
 frmTumbleOptions::frmTumbleOptions(StartGame startGame)
-    : Form("Tumble Options", 8595, 5220), startGame_(std::move(startGame)) {}
+    : Form("Tumble Options", 8595, 5220), startGame_(std::move(startGame)) {
+    lblDeckDescription.describes = &fraDeckType;
+}
 
 void frmTumbleOptions::Form_Load() {
     sizePreviewCard_.setAttributes(&pctCardSize, csNormal, fdFaceUp, vsCard, bsFirst);

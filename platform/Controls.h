@@ -111,6 +111,10 @@ public:
 
     const Font font;
     const TextAlign align;
+
+    // What it tells of other controls of its form, for those who do not see where it stands.
+    const Control* names = nullptr;     // the control whose name it shows
+    const Control* describes = nullptr; // the one that it tells more of; of a frame, the choice in it
 };
 
 enum class ButtonFace { Caption, IconAboveCaption };

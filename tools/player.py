@@ -153,6 +153,23 @@ class Screen:
         os.environ.update(self.environment)
         return atspi()
 
+    def listen(self):
+        """A function that returns the names of all that has got the focus since, as a screen reader is told of it."""
+        from gi.repository import GLib
+
+        heard = []
+        listener = self.reader().EventListener.new(
+            lambda event: event.detail1 and heard.append(event.source.get_name()))
+        listener.register("object:state-changed:focused")
+        self._started.callback(listener.deregister, "object:state-changed:focused")
+
+        def names():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return heard
+
+        return names
+
     def programs(self):
         reader = self.reader()
         desktop = reader.get_desktop(0)
@@ -245,6 +262,10 @@ class Game:
         for parent in found:
             found += children(parent)  # while it is gone through
         return [seen for seen in found if seen.get_role_name() == role]
+
+    def described(self, role):
+        """What the accessibility bus has of those with the role in the window in front that have a description."""
+        return {seen.get_name(): seen.get_description() for seen in self.seen(role) if seen.get_description()}
 
     def press(self, caption, role="push button"):
         """Clicks on a button, where the accessibility bus has it."""

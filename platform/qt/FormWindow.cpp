@@ -1,6 +1,7 @@
 #include "platform/qt/FormWindow.h"
 
 #include "platform/Desktop.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/Buttons.h"
 #include "platform/qt/KeyFilter.h"
 #include "platform/qt/SurfaceWidget.h"
@@ -235,7 +236,10 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
     captions_.add(
         label, captionStyle(label), [widget] { return toPixelSize(widget->size()); }, fontOf(widget));
-    updates_.emplace(&label, [&label, widget] { widget->setText(QString::fromStdString(label.Caption())); });
+    updates_.emplace(&label, [&label, widget] {
+        widget->setText(QString::fromStdString(label.Caption()));
+        relate(label, *widget);
+    });
     return widget;
 }
 

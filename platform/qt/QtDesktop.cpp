@@ -1,6 +1,7 @@
 #include "platform/qt/QtDesktop.h"
 
 #include "platform/Replay.h"
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
 
@@ -96,7 +97,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     }
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
-    announceSurfaces();
+    announceWidgets();
     qApp->installEventFilter(&keyFilter_);
     desktop(this);
 }

@@ -2,7 +2,7 @@
 
 #include "platform/qt/Contrast.h"
 
-#include <QAccessibleWidget>
+#include <QFocusFrame>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -15,10 +15,11 @@ namespace tumble {
 
 namespace {
 
-/// The frame around a picture box that has the keyboard's attention. It lies outside, so that it covers no card.
-class FocusRing : public QWidget {
+/// The frame around a picture box that has the keyboard's attention. It lies outside, so that it covers no card. Screen
+/// readers are not told of a focus frame.
+class FocusRing : public QFocusFrame {
 public:
-    using QWidget::QWidget;
+    using QFocusFrame::QFocusFrame;
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
@@ -60,13 +61,6 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
 
 } // namespace
 
-void announceSurfaces() {
-    QAccessible::installFactory([](const QString& /*className*/, QObject* object) -> QAccessibleInterface* {
-        auto* surface = dynamic_cast<SurfaceWidget*>(object);
-        return surface != nullptr ? new QAccessibleWidget(surface, QAccessible::Graphic) : nullptr;
-    });
-}
-
 double pixelRatio(const QWidget& widget) {
     const double ratio = widget.devicePixelRatioF();
     return ratio >= 1 ? ratio : 1;
@@ -77,7 +71,6 @@ SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* p
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.MouseMove != nullptr);
     setFocusPolicy(Qt::TabFocus);
-    focusRing_->setAttribute(Qt::WA_TransparentForMouseEvents);
     focusRing_->hide();
 }
 

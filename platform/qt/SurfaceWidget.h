@@ -13,9 +13,6 @@ namespace tumble {
 /// Device pixels for each logical pixel; at least 1, whatever the toolkit says.
 double pixelRatio(const QWidget& widget);
 
-/// Makes surfaces known to screen readers as pictures.
-void announceSurfaces();
-
 /// Shows a picture box's painting, in the exact pixels of the screen, and reports the mouse to it.
 class SurfaceWidget : public QWidget {
 public:

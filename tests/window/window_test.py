@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Plays the program in a real window and leaves it in every way: window_test.py PROGRAM"""
 
+import itertools
 import pathlib
 import sys
 import unittest
@@ -99,13 +100,34 @@ class WindowTest(unittest.TestCase):
         for deck, cards in DECKS.items():
             game.press(deck, "radio button")
             wait(cards, lambda: game.read("label") == [cards])
+            self.assertEqual(game.described("radio button"), {deck: cards})
         game.press("Play")
         game.in_front("Tumble")
         wait("the table", lambda: game.read("image") == ["Table"])
-        for place, name in ((in_spread(0), "Two of Diamonds"), (in_spread(51), "Ace of Spades"), (FREE, "None"),
-                            (CORNERS[3], "Pile (empty)")):
+        heard = self.screen.listen()
+        places = ((in_spread(0), "Two of Diamonds"), (in_spread(51), "Ace of Spades"), (FREE, "None"),
+                  (CORNERS[3], "Pile (empty)"), (CORNERS[0], "Pile (empty)"), (in_spread(0), "Two of Diamonds"))
+        for place, name in places:
             game.mouse(place)
             game.wait_for_label(name)
+            wait(f"the word {name}", lambda: heard()[-1:] == [name])
+            self.assertEqual(game.described("image"), {"Table": name})
+            self.assertEqual(game.read("list item"), [name])
+        game.key("Tab")
+        game.mouse(FREE)
+        game.wait_for_label("None")
+        self.assertEqual(heard(), [name for name, _ in itertools.groupby(name for _, name in places)] + ["Exit"])
+        for key, role, title in ((None, "frame", "Tumble"), ("alt+h", "alert", "Tumble Instructions"),
+                                 ("alt+a", "dialog", "About Tumble")):
+            if key:
+                game.key(key)
+                game.in_front(title)
+                wait(title, lambda: game.read("push button") == ["OK"])
+            self.assertEqual(game.read(role), [title])
+            self.assertEqual(game.read("filler"), [])
+            if key:
+                self.close(game, "Return")
+                game.in_front("Tumble")
         self.leave(game)
 
     def test_default_game_is_refused_and_won(self):

@@ -1,0 +1,122 @@
+#include "platform/qt/Accessibility.h"
+
+#include "platform/qt/FormWindow.h"
+#include "platform/qt/SurfaceWidget.h"
+
+#include <QAccessibleWidget>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+
+namespace tumble {
+
+namespace {
+
+/// A surface's description as an item on it that has the focus when the surface does: readers speak that, where they
+/// pass over a description that changes; and of an item, other than of a label, they say no more than its text.
+class SpokenItem : public QAccessibleInterface {
+public:
+    explicit SpokenItem(QAccessibleInterface& surface) : surface_(surface) {}
+
+    bool isValid() const override { return surface_.isValid(); }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return surface_.window(); }
+    QAccessibleInterface* parent() const override { return &surface_; }
+    QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    QAccessible::State state() const override { return surface_.state(); }
+    QRect rect() const override { return surface_.rect(); }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? surface_.text(QAccessible::Description) : QString();
+    }
+    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+
+private:
+    QAccessibleInterface& surface_;
+};
+
+class AccessibleSurface : public QAccessibleWidget {
+public:
+    explicit AccessibleSurface(SurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Graphic) {}
+    AccessibleSurface(const AccessibleSurface&) = delete;
+    AccessibleSurface& operator=(const AccessibleSurface&) = delete;
+    AccessibleSurface(AccessibleSurface&&) = delete;
+    AccessibleSurface& operator=(AccessibleSurface&&) = delete;
+    ~AccessibleSurface() override { forget(); }
+
+    /// By a new item: of one that had the focus before, readers say nothing.
+    void speak() {
+        forget();
+        spoken_ = new SpokenItem(*this);
+        QAccessible::registerAccessibleInterface(spoken_);
+        QAccessibleEvent focus(spoken_, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
+    }
+
+    int childCount() const override { return spoken_ != nullptr ? 1 : 0; }
+    QAccessibleInterface* child(int index) const override { return index == 0 ? spoken_ : nullptr; }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child != nullptr && child == spoken_ ? 0 : -1;
+    }
+
+private:
+    void forget() {
+        if (spoken_ != nullptr) {
+            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(spoken_));
+        }
+    }
+
+    SpokenItem* spoken_ = nullptr; // the toolkit's
+};
+
+void describe(QWidget& widget, const QString& text) {
+    if (text == widget.accessibleDescription()) {
+        return;
+    }
+    widget.setAccessibleDescription(text);
+    if (QAccessible::isActive() && widget.hasFocus()) {
+        if (auto* surface = dynamic_cast<AccessibleSurface*>(QAccessible::queryAccessibleInterface(&widget))) {
+            surface->speak();
+        }
+    }
+}
+
+} // namespace
+
+void announceWidgets() {
+    QAccessible::installFactory([](const QString& /*className*/, QObject* object) -> QAccessibleInterface* {
+        if (auto* surface = dynamic_cast<SurfaceWidget*>(object)) {
+            return new AccessibleSurface(*surface);
+        }
+        if (auto* window = dynamic_cast<FormWindow*>(object)) {
+            const auto role = window->windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window;
+            return new QAccessibleWidget(window, role);
+        }
+        return nullptr;
+    });
+}
+
+void relate(const Label& label, QLabel& widget) {
+    const auto widgetOf = [&](const Control& control) {
+        return widget.window()->findChild<QWidget*>(QString::fromStdString(control.Name()));
+    };
+    if (label.names != nullptr) {
+        widget.setBuddy(widgetOf(*label.names));
+    }
+    if (label.describes == nullptr) {
+        return;
+    }
+    QWidget* described = widgetOf(*label.describes);
+    if (qobject_cast<QGroupBox*>(described) == nullptr) {
+        describe(*described, widget.text());
+        return;
+    }
+    for (QRadioButton* choice : described->findChildren<QRadioButton*>()) {
+        describe(*choice, choice->isChecked() ? widget.text() : QString());
+    }
+}
+
+} // namespace tumble
