@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/Painting.h"
+
+#include <optional>
+#include <vector>
+
+namespace tumble {
+
+/// The mark of the keyboard's pointer: where it lies, in twips of the surface, and whether the pointer holds a button.
+struct Ring {
+    Point at;
+    bool holds = false;
+    friend bool operator==(const Ring&, const Ring&) = default;
+};
+
+/// Where the keyboard's pointer stops: of each opaque item that is no erasure, the middle of the largest rectangle that
+/// it leaves to see within `part`. Whole twips, in the order of the painting, equal ones once. The item under the ring
+/// is no stop; while the ring holds, it is taken for what the ring carries, and hides nothing.
+std::vector<Point> stops(const Painting& painting, const Rect& part, const std::optional<Ring>& ring = {});
+
+/// The best of the stops within 45 degrees of a direction, which is one step along an axis: the least way along it and
+/// across, together. None where there is none.
+std::optional<Point> stopTowards(const std::vector<Point>& stops, Point from, Point direction);
+
+/// The one of the stops that lies nearest; none when there are none.
+std::optional<Point> stopNearest(const std::vector<Point>& stops, Point to);
+
+} // namespace tumble
