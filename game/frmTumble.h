@@ -39,7 +39,7 @@ public:
     Label lblCurrentCardLabel{*this, "lblCurrentCardLabel", "Current Card:", {240, 6240, 1215, 375}, 4, {.bold = true}};
     Label lblCurrentCard{*this, "lblCurrentCard", "", {1560, 6240, 2775, 255}, 5};
     CommandButton cmdAbout{*this, "cmdAbout", "&About", {7200, 6240, 615, 375}, 3, [] { cmdAbout_Click(); }};
-    CommandButton cmdHelp{*this, "cmdHelp", "&Help", {7920, 6240, 615, 375}, 2, [] { cmdHelp_Click(); }};
+    CommandButton cmdHelp{*this, "cmdHelp", "&Help", {7920, 6240, 615, 375}, 2, [] { cmdHelp_Click(); }, {Key::F1}};
     CommandButton cmdExit{*this, "cmdExit", "E&xit", {8640, 6240, 615, 375}, 1, [this] { cmdExit_Click(); }, {Key::Enter}};
     // clang-format on
 };

@@ -6,7 +6,7 @@
 namespace tumble {
 
 /// The keys that mean the same wherever the focus is.
-enum class Key { Enter, Esc, F11 };
+enum class Key { Enter, Esc, F1, F11 };
 
 /// Tells a press from what the keyboard repeats while a key is held, for all windows of a desktop: another may have
 /// come up meanwhile. A repetition is a release and a press at the same instant, which not every toolkit sees.

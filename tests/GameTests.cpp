@@ -115,6 +115,7 @@ std::string designOf(const Container& container) {
             text << " " << control->font.points << (control->font.bold ? " bold" : "");
         } else if constexpr (requires { control->face; }) {
             text << (control->pressedBy(Key::Enter) ? " Enter" : "") << (control->pressedBy(Key::Esc) ? " Esc" : "")
+                 << (control->pressedBy(Key::F1) ? " F1" : "")
                  << (control->face == ButtonFace::IconAboveCaption ? " icon" : "");
         }
         if constexpr (requires { control->align; }) {
@@ -136,7 +137,7 @@ TEST(FormTest, ControlsAreAsTheyWereDesigned) {
     MainMod program;
     EXPECT_EQ(designOf(program.table()),
               "9525,6630; 0:240,120,9015,6015 'Table'; 4:240,6240,1215,375 'Current Card:' 8.25 bold; "
-              "5:1560,6240,2775,255 '' 8.25; 3:7200,6240,615,375 '&About'; 2:7920,6240,615,375 '&Help'; "
+              "5:1560,6240,2775,255 '' 8.25; 3:7200,6240,615,375 '&About'; 2:7920,6240,615,375 '&Help' F1; "
               "1:8640,6240,615,375 'E&xit' Enter; ");
     EXPECT_TRUE(application().Width == program.table().Width() && application().Height == program.table().Height());
     std::string about;
