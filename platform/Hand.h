@@ -21,6 +21,10 @@ public:
     void move(std::int16_t Button, std::int16_t Shift, Point at);
     void release(std::int16_t Button, std::int16_t Shift, Point at);
 
+    /// Null once the hand is retired.
+    const PictureBox* box() const { return box_; }
+    /// Whether the box is told of anything.
+    bool takesInput() const { return box_ != nullptr && box_->takesInput(); }
     /// Whether the box takes a button for held.
     bool holds() const { return held_ != 0; }
     /// Releases what is held at the last place that the box was told of.
@@ -29,7 +33,6 @@ public:
     void retire() { box_ = nullptr; }
 
 private:
-    bool takesInput() const { return box_ != nullptr && box_->takesInput(); }
     void tell(PictureBox::MouseEvent PictureBox::*event, std::int16_t Button, std::int16_t Shift, Point at);
 
     PictureBox* box_;

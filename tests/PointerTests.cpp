@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <map>
 #include <set>
+#include <sstream>
 #include <tuple>
 #include <utility>
 
@@ -104,6 +107,176 @@ TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOt
         EXPECT_TRUE(all.size() == count && on.size() == count && !on.contains(nullptr)) << all.size();
         EXPECT_EQ(reached(ways).size(), count);
         EXPECT_EQ(reached(back).size(), count);
+    }
+}
+
+/// A box with six blocks on it that notes what it hears: "down 1 0 200,100" with button and shift keys.
+class Blocks : public Form {
+public:
+    Blocks() : Form("Blocks", 3000, 2000) {
+        for (const Point middle : {Point{200, 200}, {1100, 200}, {2700, 200}, {200, 1600}, {2700, 1600}, {1500, 900}}) {
+            const Rect place = Rect{middle.x, middle.y, middle.x, middle.y}.grown(100);
+            box.Paint(place).Line(place, 0, BoxFill::Filled);
+        }
+        box.reach = {0, 0, 2929, 1929};
+        const auto note = [this](const std::string& what) {
+            return [this, what](auto Button, auto Shift, float X, float Y) {
+                std::ostringstream event;
+                event << what << " " << Button << " " << Shift << " " << X << "," << Y << "; ";
+                heard += event.str();
+            };
+        };
+        box.MouseDown = note("down");
+        box.MouseMove = note("move");
+        box.MouseUp = note("up");
+    }
+
+    PictureBox box{*this, "box", "", {0, 0, 3000, 2000}, 0, tableGreen};
+    std::string heard;
+};
+
+struct Input {
+    /// Presses keys, in words: "Home Shift+Left held+Space"; gives those that are not the pointer's, and
+    /// what the box has heard since the last call.
+    std::string press(const std::string& keys) {
+        static const std::map<std::string, PointerKey> names{
+            {"Left", PointerKey::Left},   {"Up", PointerKey::Up},
+            {"Right", PointerKey::Right}, {"Down", PointerKey::Down},
+            {"Home", PointerKey::Home},   {"PageUp", PointerKey::PageUp},
+            {"End", PointerKey::End},     {"PageDown", PointerKey::PageDown},
+            {"Space", PointerKey::Space}, {"F", PointerKey::F},
+            {"Menu", PointerKey::Menu},   {"F10", PointerKey::F10}};
+        std::istringstream words(keys);
+        std::string others;
+        for (std::string word; words >> word;) {
+            const auto with = [&](const char* prefix) { return word.find(prefix) != std::string::npos; };
+            others += pointer.key({.key = names.at(word.substr(word.rfind('+') + 1)),
+                                   .shift = with("Shift+"),
+                                   .control = with("Ctrl+"),
+                                   .alt = with("Alt+"),
+                                   .meta = with("Meta+"),
+                                   .repeated = with("held+")})
+                          ? ""
+                          : word + " ";
+        }
+        return others + heard();
+    }
+    std::string heard() { return std::exchange(form.heard, ""); }
+    void expectRing(Point at, bool holds) const { EXPECT_EQ(pointer.ring(), (Ring{at, holds})); }
+
+    MemoryDesktop desktop{application()};
+    Blocks form;
+    Hand hand{form.box};
+    KeyboardPointer pointer{hand};
+};
+
+TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"Left", "move 0 0 200,200; "},
+        {"Up", "move 0 0 1100,200; "},
+        {"Right", "move 0 0 2700,200; "},
+        {"Down", ""},
+        {"Home Shift+Home", "move 0 0 200,200; "}, // where it stays
+        {"PageUp", "move 0 0 2700,200; "},
+        {"End held+Right", "move 0 0 200,1600; move 0 0 1500,900; "},
+        {"PageDown", "move 0 0 2700,1600; "},
+        {"Shift+Left held+Shift+Up", "move 0 1 1350,900; move 0 1 1350,750; "},
+        {"Ctrl+Shift+Right held+Ctrl+Shift+Down", "move 0 3 1515,900; move 0 3 1515,915; "},
+        {"PageDown Shift+Right Shift+Right Shift+Right",
+         "move 0 0 2700,1600; move 0 1 2850,1600; move 0 1 2929,1600; "},
+        {"Space held+Space Home Space held+Space",
+         "down 1 0 1500,900; move 1 0 200,200; up 1 0 200,200; move 0 0 200,200; "},
+        {"F held+F", "down 2 0 1500,900; up 2 0 1500,900; "},
+        {"Menu held+Menu", "down 2 0 1500,900; up 2 0 1500,900; "},
+        {"Shift+F10 held+Shift+F10", "down 2 1 1500,900; up 2 1 1500,900; "},
+        {"Space F", "down 1 0 1500,900; down 2 0 1500,900; up 2 0 1500,900; up 1 0 1500,900; move 0 0 1500,900; "}};
+    for (const auto& [keys, heard] : cases) {
+        Input input;
+        EXPECT_EQ(input.pointer.ring(), std::nullopt);
+        EXPECT_EQ(input.press("held+Right"), "move 0 0 1500,900; ");
+        EXPECT_EQ(input.press(keys), heard) << keys;
+    }
+    Input input;
+    const std::string others =
+        "F10 Ctrl+F Alt+F Meta+F Ctrl+Space Alt+Menu Ctrl+Left Alt+Shift+Up Meta+Down Ctrl+Home ";
+    EXPECT_EQ(input.press(others), others);
+    EXPECT_EQ(input.pointer.ring(), std::nullopt);
+    input.form.box.Cls();
+    EXPECT_EQ(input.press("Space Left Home F"),
+              "move 0 0 1464,964; down 2 0 1464,964; up 2 0 1464,964; "); // without any stop
+}
+
+TEST(KeyboardPointerTest, GoesWhenTheMouseMovesFarOrPressesAndComesBackWhereItWas) {
+    Input input;
+    input.press("Right Home");
+    for (const Point near : {Point{2000, 1000}, {2060, 1000}, {1964, 1048}}) { // the first, from wherever it was
+        input.pointer.move(0, 0, near);
+    }
+    EXPECT_EQ(input.heard(), "");
+    input.expectRing({200, 200}, false);
+    input.pointer.move(0, 0, {2061, 1000});
+    EXPECT_EQ(input.heard(), "move 0 0 2061,1000; ");
+    EXPECT_EQ(input.pointer.ring(), std::nullopt);
+    EXPECT_EQ(input.press("PageDown Space"), "move 0 0 200,200; down 1 0 200,200; ");
+    input.expectRing({200, 200}, true);
+    input.pointer.press(2, 1, {1000, 1000});
+    EXPECT_EQ(input.press("Space Left F"), "up 1 0 200,200; down 2 1 1000,1000; ");
+    EXPECT_EQ(input.pointer.ring(), std::nullopt); // the mouse holds a button
+    input.pointer.release(2, 0, {1000, 1000});
+    input.press("Space Space");
+    input.pointer.move(0, 0, {2000, 1000});
+    input.pointer.move(0, 0, {2900, 1000}); // and takes what Space holds along
+    input.pointer.press(1, 0, {2900, 1000});
+    EXPECT_EQ(input.heard(), "move 0 0 2900,1000; up 1 0 2900,1000; down 1 0 2900,1000; ");
+    input.pointer.release(1, 0, {2900, 1000});
+    input.press("Space Space");
+    input.hand.letGo(); // as a desktop does when the window has gone
+    input.expectRing({200, 200}, false);
+}
+
+// Cards lie on a real table; what the player does meanwhile goes elsewhere.
+TEST(KeyboardPointerTest, WhatSpaceHoldsStaysHeldThroughEveryInterruption) {
+    const auto space = [](Table& table) { table.pointer.key({PointerKey::Space}); };
+    const auto busy = [&](Table& table) {
+        for (const PointerKey key : {PointerKey::Space, PointerKey::End, PointerKey::F}) {
+            EXPECT_TRUE(table.pointer.key({key}));
+        }
+        table.move({9000, 5000});
+        table.move({1000, 1000});
+        table.press({1000, 1000});
+    };
+    const std::vector<std::pair<std::string, std::function<void(Table&)>>> interruptions{
+        {"to a button by Tab, and back", [](Table&) {}},
+        {"a message box", [](Table& table) { table.program.table().cmdHelp.Click(); }},
+        {"another window", [](Table& table) { table.program.table().cmdAbout.Click(); }},
+        {"the hourglass", [&](Table& table) {
+             table.program.table().MousePointer(Pointer::Hourglass);
+             busy(table);
+             table.program.table().MousePointer(Pointer::Default);
+         }}};
+    for (const auto& [what, interrupt] : interruptions) {
+        SCOPED_TRACE(what);
+        Table table;
+        table.desktop.whileMessageIsOpen = [&] { busy(table); };
+        table.desktop.whileModal = [&](Form& about) {
+            busy(table);
+            about.Unload();
+        };
+        table.lay(rkFive, suHeart, 4000, 2000);
+        table.lay(rkSix, suHeart, 1000, 1000);
+        space(table);
+        space(table);
+        table.pointer.key({PointerKey::Home});
+        const auto carried = table.pointer.ring();
+        table.painted();
+        interrupt(table);
+        EXPECT_EQ(table.painted(), "");
+        EXPECT_TRUE(table.tracker().moveInProg());
+        EXPECT_EQ(table.pointer.ring(), carried);
+        space(table);
+        EXPECT_EQ(table.label(), "Five of Hearts");
+        EXPECT_EQ(table.pointer.ring(), (Ring{carried->at, false}));
+        EXPECT_EQ(table.cards(), "SixHearts 1000,1000; FiveHearts 1000,1000");
     }
 }
 

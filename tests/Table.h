@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/MainMod.h"
-#include "platform/Hand.h"
+#include "platform/KeyboardPointer.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "rules/PileAccepterTumble.h"
 
@@ -38,9 +38,9 @@ public:
     std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
                                       const std::shared_ptr<PileAccepter>& taker = nullptr) const;
 
-    void press(Point at, std::int16_t button = 1) { hand.press(button, 0, at); }
-    void move(Point to) { hand.move(0, 0, to); }
-    void release(Point at) { hand.release(1, 0, at); }
+    void press(Point at, std::int16_t button = 1) { pointer.press(button, 0, at); }
+    void move(Point to) { pointer.move(0, 0, to); }
+    void release(Point at) { pointer.release(1, 0, at); }
     void drag(Point from, Point to);
 
     /// What was painted on the table since the last call.
@@ -53,6 +53,7 @@ public:
     MemoryDesktop desktop{application()};
     MainMod program;
     Hand hand{picture()};
+    KeyboardPointer pointer{hand};
     /// The rules of a game that is not about to be won: at first, with a standard deck.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });

@@ -1,0 +1,161 @@
+#include "platform/KeyboardPointer.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tumble {
+
+namespace {
+
+constexpr std::int16_t leftButton = 1;
+constexpr std::int16_t rightButton = 2;
+constexpr float fewPixels = 4 * twipsPerPixel;
+
+/// One step along an axis for an arrow; for a key of a corner, one step along both; of the others, none.
+Point direction(PointerKey key) {
+    switch (key) {
+    case PointerKey::Left:
+        return {-1, 0};
+    case PointerKey::Up:
+        return {0, -1};
+    case PointerKey::Right:
+        return {1, 0};
+    case PointerKey::Down:
+        return {0, 1};
+    case PointerKey::Home:
+        return {-1, -1};
+    case PointerKey::PageUp:
+        return {1, -1};
+    case PointerKey::End:
+        return {-1, 1};
+    case PointerKey::PageDown:
+        return {1, 1};
+    default:
+        return {};
+    }
+}
+
+bool isArrow(PointerKey key) {
+    const auto [x, y] = direction(key);
+    return (x == 0) != (y == 0);
+}
+
+bool isPointers(const PointerKeyPress& press) {
+    return !press.alt && !press.meta && (!press.control || (press.shift && isArrow(press.key))) &&
+           (press.key != PointerKey::F10 || press.shift);
+}
+
+std::int16_t shiftKeys(const PointerKeyPress& press) {
+    return static_cast<std::int16_t>((press.shift ? 1 : 0) + (press.control ? 2 : 0));
+}
+
+} // namespace
+
+bool KeyboardPointer::key(const PointerKeyPress& press) {
+    if (!isPointers(press)) {
+        return false;
+    }
+    const bool moves = direction(press.key) != Point();
+    const bool mouseHolds = hand_.holds() && !holds_;
+    if (!hand_.takesInput() || mouseHolds || (press.repeated && !moves)) {
+        return true;
+    }
+    const std::int16_t Shift = shiftKeys(press);
+    if (!shows_) {
+        show();
+        moveTo(*at_, Shift);
+    } else if (moves) {
+        if (const Point to = goal(press); to != *at_) {
+            moveTo(to, Shift);
+        }
+    } else if (press.key != PointerKey::Space) {
+        click(Shift);
+    } else if (holds()) {
+        letGo(Shift);
+    } else {
+        holds_ = true;
+        hand_.press(leftButton, Shift, *at_);
+    }
+    return true;
+}
+
+void KeyboardPointer::press(std::int16_t Button, std::int16_t Shift, Point at) {
+    if (!hand_.takesInput()) {
+        return;
+    }
+    shows_ = false;
+    if (holds()) {
+        hand_.letGo(); // where the mouse may have carried it since
+    }
+    holds_ = false;
+    hand_.press(Button, Shift, at);
+}
+
+void KeyboardPointer::move(std::int16_t Button, std::int16_t Shift, Point at) {
+    if (shows_ && hand_.takesInput()) {
+        mouse_ = mouse_.value_or(at);
+        shows_ = std::hypot(at.x - mouse_->x, at.y - mouse_->y) <= fewPixels;
+    }
+    if (!shows_) {
+        hand_.move(Button, Shift, at);
+    }
+}
+
+std::optional<Ring> KeyboardPointer::ring() const {
+    return shows_ ? std::optional(Ring{*at_, holds()}) : std::nullopt;
+}
+
+Rect KeyboardPointer::part() const {
+    return hand_.box()->reach.intersected(hand_.box()->painting().bounds());
+}
+
+std::vector<Point> KeyboardPointer::stopsNow() const {
+    return stops(hand_.box()->painting(), part(), ring());
+}
+
+Point KeyboardPointer::goal(const PointerKeyPress& press) const {
+    const auto [x, y] = direction(press.key);
+    const Rect in = part();
+    if (!isArrow(press.key)) {
+        std::vector<Point> places = stopsNow();
+        places.push_back(*at_); // whose item is no stop
+        return *stopNearest(places, {x < 0 ? in.left : in.right, y < 0 ? in.top : in.bottom});
+    }
+    if (!press.shift) {
+        return stopTowards(stopsNow(), *at_, {x, y}).value_or(*at_);
+    }
+    const float step = (press.control ? 1 : 10) * twipsPerPixel;
+    return {std::max(in.left, std::min(at_->x + step * x, in.right)),
+            std::max(in.top, std::min(at_->y + step * y, in.bottom))};
+}
+
+void KeyboardPointer::show() {
+    const Rect in = part();
+    const Point last = at_.value_or(Point{std::floor((in.left + in.right) / 2), std::floor((in.top + in.bottom) / 2)});
+    at_ = stopNearest(stopsNow(), last).value_or(last);
+    shows_ = true;
+    mouse_.reset();
+}
+
+void KeyboardPointer::moveTo(Point at, std::int16_t Shift) {
+    at_ = at;
+    hand_.move(holds() ? leftButton : 0, Shift, at);
+}
+
+// A release of any button ends what the game drags, so that the left one is held for nothing afterwards.
+void KeyboardPointer::click(std::int16_t Shift) {
+    hand_.press(rightButton, Shift, *at_);
+    hand_.release(rightButton, Shift, *at_);
+    if (holds()) {
+        letGo(Shift);
+    }
+}
+
+// Then a move, so that the box says what lies there now.
+void KeyboardPointer::letGo(std::int16_t Shift) {
+    holds_ = false;
+    hand_.release(leftButton, Shift, *at_);
+    hand_.move(0, Shift, *at_);
+}
+
+} // namespace tumble

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/Hand.h"
+#include "platform/Stops.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace tumble {
+
+/// The keys that the keyboard's pointer knows. Space and F by the letter, the others wherever they lie.
+enum class PointerKey { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10 };
+
+struct PointerKeyPress {
+    PointerKey key;
+    bool shift = false;
+    bool control = false;
+    bool alt = false;
+    bool meta = false;
+    bool repeated = false; // by the keyboard, as the key is held
+};
+
+/// The keyboard's pointer over a picture box, of which the box is told as of the mouse. While the box takes no
+/// input, keys and the mouse do nothing; while the mouse holds a button, keys do nothing.
+///
+/// - Arrow: to the best stop in its direction; with Shift ten unscaled pixels on, with Ctrl and Shift one.
+/// - Home, Page Up, End, Page Down: to the stop nearest to a corner, as they lie on the keypad.
+/// - Space: presses the left button; pressed again, releases it.
+/// - F, Menu, Shift+F10: press and release the right button, and then the left one if Space holds it.
+///
+/// The first key only shows the pointer. The mouse hides it: by a press, or when it moves by more than a few pixels.
+class KeyboardPointer {
+public:
+    /// The hand outlives the pointer. The mouse acts on the hand by way of the pointer.
+    explicit KeyboardPointer(Hand& hand) : hand_(hand) {}
+
+    /// Whether the key, with those held with it, is one of the pointer's.
+    bool key(const PointerKeyPress& press);
+
+    // What the mouse does; as for a hand. A press releases what Space holds first.
+    void press(std::int16_t Button, std::int16_t Shift, Point at);
+    void move(std::int16_t Button, std::int16_t Shift, Point at);
+    void release(std::int16_t Button, std::int16_t Shift, Point at) { hand_.release(Button, Shift, at); }
+
+    /// What marks the pointer while it shows.
+    std::optional<Ring> ring() const;
+
+private:
+    bool holds() const { return holds_ && hand_.holds(); }
+    Rect part() const;
+    std::vector<Point> stopsNow() const;
+    Point goal(const PointerKeyPress& press) const;
+    void show();
+    void moveTo(Point at, std::int16_t Shift);
+    void click(std::int16_t Shift);
+    void letGo(std::int16_t Shift);
+
+    Hand& hand_;
+    std::optional<Point> at_; // where it is or was; none at first
+    bool shows_ = false;
+    bool holds_ = false;         // Space has pressed, and not released
+    std::optional<Point> mouse_; // where the mouse rests while the pointer shows
+};
+
+} // namespace tumble
