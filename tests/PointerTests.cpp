@@ -168,6 +168,7 @@ struct Input {
     Blocks form;
     Hand hand{form.box};
     KeyboardPointer pointer{hand};
+    Finger finger{pointer};
 };
 
 TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
@@ -278,6 +279,77 @@ TEST(KeyboardPointerTest, WhatSpaceHoldsStaysHeldThroughEveryInterruption) {
         EXPECT_EQ(table.pointer.ring(), (Ring{carried->at, false}));
         EXPECT_EQ(table.cards(), "SixHearts 1000,1000; FiveHearts 1000,1000");
     }
+}
+
+TEST(FingerTest, WhatATouchMeansShowsLater) {
+    const std::string click = "down 1 0 500,500; up 1 0 500,500; ";
+    const std::string rightClick = "down 2 0 500,500; up 2 0 500,500; ";
+    const std::string drag = "down 1 0 500,500; move 1 0 590,620; ";
+    const std::vector<std::pair<std::function<void(Finger&)>, std::string>> cases{
+        {[](Finger& finger) {
+             finger.move(1, {590, 619});
+         },
+         ""},
+        {[](Finger& finger) {
+             finger.lift(1, {590, 619});
+         },
+         click},
+        {[](Finger& finger) {
+             finger.move(1, {590, 620});
+         },
+         drag},
+        {[](Finger& finger) { finger.longPress(); }, rightClick},
+        {[](Finger& finger) { finger.cancel(); }, ""},
+        {[](Finger& finger) {
+             finger.longPress();
+             finger.longPress();
+             finger.move(1, {900, 900});
+             finger.lift(1, {900, 900});
+             finger.longPress();
+         },
+         rightClick},
+        {[](Finger& finger) {
+             finger.move(1, {590, 620});
+             finger.longPress();
+             finger.move(1, {500, 500});
+             finger.lift(1, {510, 500});
+         },
+         drag + "move 1 0 500,500; up 1 0 510,500; "},
+        {[](Finger& finger) {
+             finger.move(1, {590, 620});
+             finger.cancel();
+             finger.lift(1, {900, 900});
+         },
+         drag + "up 1 0 590,620; "},
+        {[](Finger& finger) { // a second one
+             finger.touch(2, {100, 100}, 0);
+             finger.move(2, {900, 900});
+             finger.lift(1, {500, 500});
+             finger.move(2, {100, 100});
+             finger.longPress();
+             finger.lift(2, {100, 100});
+         },
+         click},
+        {[](Finger& finger) { // one after the other
+             finger.lift(1, {500, 500});
+             finger.touch(2, {500, 500}, 150);
+             finger.move(2, {590, 620});
+         },
+         click + drag}};
+    for (const auto& [then, heard] : cases) {
+        Input input;
+        input.finger.touch(1, {500, 500}, 150);
+        EXPECT_EQ(input.heard(), "");
+        then(input.finger);
+        EXPECT_EQ(input.heard(), heard);
+    }
+    Input input;
+    input.press("Space Space");
+    input.finger.touch(1, {500, 500}, 150);
+    input.expectRing({1500, 900}, true);
+    input.finger.lift(1, {500, 500});
+    EXPECT_EQ(input.heard(), "up 1 0 1500,900; " + click);
+    EXPECT_EQ(input.pointer.ring(), std::nullopt);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/MainMod.h"
+#include "platform/Finger.h"
 #include "platform/KeyboardPointer.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "rules/PileAccepterTumble.h"
@@ -54,6 +55,7 @@ public:
     MainMod program;
     Hand hand{picture()};
     KeyboardPointer pointer{hand};
+    Finger finger{pointer};
     /// The rules of a game that is not about to be won: at first, with a standard deck.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });
