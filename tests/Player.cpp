@@ -1,6 +1,8 @@
 #include "tests/Player.h"
 
+#include <cmath>
 #include <map>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -11,7 +13,94 @@ namespace {
 
 constexpr std::array lowestRanks{2, 2, 6, 7, 9, 2, 9, 7};                       // of the decks
 constexpr std::array<Point, 3> sizes{{{729, 1134}, {900, 1400}, {1233, 1918}}}; // width and height of a card
-constexpr std::array<Point, 4> corners{{{300, 300}, {8644, 300}, {300, 5644}, {8644, 5644}}}; // one for each suit
+constexpr Rect field{.left = 0, .top = 0, .right = 8944, .bottom = 5944};       // where a hand moves things
+
+/// What plays at a table, to the nearest few twips.
+class Hands {
+public:
+    virtual ~Hands() = default;
+    virtual void move(Point to) = 0;
+    virtual void press(Point at) = 0;
+    virtual void release(Point at) = 0;
+    /// Places that together lie on all that shows.
+    virtual std::vector<Point> everywhere() const = 0;
+};
+
+class MouseHands : public Hands {
+public:
+    explicit MouseHands(Table& table) : table_(table) {}
+
+    void move(Point to) override { table_.move(to); }
+    void press(Point at) override {
+        pressed_ = at;
+        table_.press(at);
+    }
+    void release(Point at) override {
+        if (++drags_ % 2 == 0) { // else the release is the only step
+            table_.move({(pressed_.x + at.x) / 2, (pressed_.y + at.y) / 2});
+        }
+        table_.release(at);
+    }
+    // Each card of a spread shows at least 150 by 1000 twips of itself.
+    std::vector<Point> everywhere() const override {
+        std::vector<Point> places;
+        for (Point at{70, 50}; at.y < 6000; at = at.x < 8860 ? Point{at.x + 140, at.y} : Point{70, at.y + 840}) {
+            places.push_back(at);
+        }
+        return places;
+    }
+
+private:
+    Table& table_;
+    Point pressed_;
+    int drags_ = 0;
+};
+
+/// Goes by the key of a corner, by arrows as long as they bring it nearer, and by single steps in the end.
+class KeyHands : public Hands {
+public:
+    explicit KeyHands(Table& table) : table_(table) { key(PointerKey::Space); }
+
+    void move(Point to) override {
+        const bool left = to.x < field.right / 2;
+        const bool top = to.y < field.bottom / 2;
+        if (way({left ? field.left : field.right, top ? field.top : field.bottom}, to) < way(at(), to)) {
+            key(left ? top ? PointerKey::Home : PointerKey::End : top ? PointerKey::PageUp : PointerKey::PageDown);
+        }
+        for (float before = 1e6F; way(at(), to) < before && !there(to);) {
+            before = way(at(), to);
+            key(std::abs(to.x - at().x) > std::abs(to.y - at().y) ? across(to) : along(to));
+        }
+        for (const float step : {150.0F, 15.0F}) {
+            while (std::abs(to.x - at().x) > step / 2) {
+                key(across(to), step);
+            }
+            while (std::abs(to.y - at().y) > step / 2) {
+                key(along(to), step);
+            }
+        }
+    }
+    void press(Point at) override {
+        move(at);
+        key(PointerKey::Space);
+    }
+    void release(Point at) override { press(at); }
+    std::vector<Point> everywhere() const override { return stops(table_.picture().painting(), field); }
+
+private:
+    static float way(Point from, Point to) { return std::hypot(to.x - from.x, to.y - from.y); }
+    Point at() const { return table_.pointer.ring()->at; }
+    bool there(Point to) const { return way(at(), to) < 2; }
+    PointerKey across(Point to) const { return to.x < at().x ? PointerKey::Left : PointerKey::Right; }
+    PointerKey along(Point to) const { return to.y < at().y ? PointerKey::Up : PointerKey::Down; }
+    void key(PointerKey key, float step = 0) {
+        require(table_.pointer.key({.key = key, .shift = step != 0, .control = step == 15}), "no key of the pointer");
+        require(++keys_ < 50000, "no way");
+    }
+
+    Table& table_;
+    int keys_ = 0;
+};
 
 std::string onPile(const std::string& name) {
     return "Pile (" + name + ")";
@@ -19,13 +108,18 @@ std::string onPile(const std::string& name) {
 
 class Player {
 public:
-    Player(const Settings& settings, std::vector<float> shuffle)
+    Player(const Settings& settings, std::vector<float> shuffle, PlayedBy playedBy)
         : settings_(settings), size_(sizes.at(settings.size)), left_(cardsOfDeck.at(settings.deck)) {
         shown_.fill(onPile("empty"));
         table_.desktop.random().script(std::move(shuffle));
         table_.program.Main();
         choose(table_.program.options(), settings);
         table_.program.options().cmdPlay.Click();
+        if (playedBy == PlayedBy::Mouse) {
+            hands_ = std::make_unique<MouseHands>(table_);
+        } else {
+            hands_ = std::make_unique<KeyHands>(table_);
+        }
     }
 
     void win() {
@@ -43,21 +137,29 @@ public:
     }
 
 private:
+    /// Of a corner pile, in whole twips.
+    Point middle(float right, float bottom) const {
+        return {std::floor((field.right + right * (field.right - size_.x + 1)) / 2),
+                std::floor((field.bottom + bottom * (field.bottom - size_.y + 1)) / 2)};
+    }
+
     const std::string& nameAt(Point at) {
-        table_.move(at);
+        hands_->move(at);
         return table_.label();
     }
 
     /// The name of the card on the pile in the middle, if there is one.
     std::string topOfDeck() {
+        if (settings_.layout == 0) {
+            return "empty";
+        }
         const std::string& name = nameAt(deck_);
         return name.starts_with("Pile (") ? name.substr(6, name.size() - 7) : "empty";
     }
 
-    // Each card of a spread shows at least 150 by 1000 twips of itself.
     void lookOver() {
         seen_.clear();
-        for (Point at{70, 50}; at.y < 6000; at = at.x < 8860 ? Point{at.x + 140, at.y} : Point{70, at.y + 840}) {
+        for (const Point at : hands_->everywhere()) {
             if (const std::string& name = nameAt(at); name != "None" && !name.starts_with("Pile (")) {
                 seen_.emplace(name, at);
             }
@@ -81,10 +183,10 @@ private:
     }
 
     bool playOne() {
-        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+        for (std::size_t corner = 0; corner < corners_.size(); ++corner) {
             for (const std::string& name : {wanted(corner), std::string("Joker")}) {
                 if (const auto from = find(name)) {
-                    drag(*from, name, corners.at(corner));
+                    drag(*from, name, corners_.at(corner));
                     played_.at(corner) += name == "Joker" ? 0 : 1;
                     shown_.at(corner) = onPile(name);
                     expectTable(--left_ == 0 ? "YOU WIN: CONGRATULATIONS!" : "");
@@ -96,19 +198,16 @@ private:
     }
 
     void drag(Point from, const std::string& name, Point to) {
-        table_.press(from);
+        hands_->press(from);
         require(table_.label() == name || table_.label() == onPile(name), "pressed " + name + ": " + table_.label());
-        if (++drags_ % 2 == 0) { // else the release is the only step
-            table_.move({(from.x + to.x) / 2, (from.y + to.y) / 2});
-        }
-        table_.release(to);
+        hands_->release(to);
     }
 
     void expectTable(const std::string& messages) {
         const std::string said = table_.messages();
         require(said == messages, "expected '" + messages + "', got '" + said + "'");
-        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
-            const std::string& name = nameAt(corners.at(corner));
+        for (std::size_t corner = 0; corner < corners_.size(); ++corner) {
+            const std::string& name = nameAt(corners_.at(corner));
             require(name == shown_.at(corner), "not " + shown_.at(corner) + " but " + name);
         }
     }
@@ -117,7 +216,7 @@ private:
     void layAside(const std::string& name) {
         const int perRow = static_cast<int>(8925 - 3 * size_.x) / 100;
         const auto column = static_cast<float>(laidAside_ % perRow);
-        const Point to{size_.x + 15 + 100 * column, laidAside_ < perRow ? 10.0F : 4010.0F};
+        const Point to{size_.x + 40 + 100 * column, laidAside_ < perRow ? 10.0F : 4040.0F};
         ++laidAside_;
         drag(deck_, name, to);
         require(nameAt(to) == name, name + " is not where it was laid");
@@ -129,9 +228,11 @@ private:
     Point size_;
     int left_;
     Table table_;
-    Point deck_{4517 - size_.x / 2, 3017 - size_.y / 2}; // near the top left corner of the pile in the middle
+    std::unique_ptr<Hands> hands_;
+    // The middles of the corners, one for each suit, and near the top left corner of the pile in the middle.
+    std::array<Point, 4> corners_{middle(-1, -1), middle(1, -1), middle(-1, 1), middle(1, 1)};
+    Point deck_{std::floor(4537 - size_.x / 2), std::floor(3037 - size_.y / 2)};
     int laidAside_ = 0;
-    int drags_ = 0;
     std::multimap<std::string, Point> seen_; // where cards showed when last looked at
     std::array<int, 4> played_{};            // cards of its suit on each corner
     std::array<std::string, 4> shown_;       // the name of each corner
@@ -157,8 +258,8 @@ void choose(frmTumbleOptions& dialog, const Settings& settings) {
     dialog.sldBackDesign.Value(static_cast<int>(settings.back) + 1);
 }
 
-void playToTheWin(const Settings& settings, std::vector<float> shuffle) {
-    Player(settings, std::move(shuffle)).win();
+void playToTheWin(const Settings& settings, std::vector<float> shuffle, PlayedBy playedBy) {
+    Player(settings, std::move(shuffle), playedBy).win();
 }
 
 } // namespace tumble

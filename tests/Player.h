@@ -21,9 +21,11 @@ struct Settings {
 inline constexpr std::array cardsOfDeck{52, 54, 36, 32, 24, 104, 48, 64};
 void choose(frmTumbleOptions& dialog, const Settings& settings);
 
-/// Plays a game as a person does: chooses in the dialog, sees what lies where only by the name under the mouse, drags
-/// with the left button, and knows the rules. Requires after each drop that cards and piles show where they should, and
-/// that the last card, no other, wins. `shuffle` are the values that the generator hands out.
-void playToTheWin(const Settings& settings, std::vector<float> shuffle);
+enum class PlayedBy { Mouse, Keys };
+
+/// Plays a game as a person does: chooses in the dialog, sees what lies where only by the name under the pointer, drags
+/// with the left button, or with Space, and knows the rules. Requires after each drop that cards and piles show where
+/// they should, and that the last card, no other, wins. `shuffle` are the values that the generator hands out.
+void playToTheWin(const Settings& settings, std::vector<float> shuffle, PlayedBy playedBy = PlayedBy::Mouse);
 
 } // namespace tumble

@@ -16,12 +16,17 @@ protected:
         for (std::size_t game = 0; game < 36 * backsAndFaces; ++game) {
             SCOPED_TRACE(testing::Message() << "deck " << deck << ", game " << game);
             const std::size_t look = game / 36 + game % 8;
-            std::mt19937 random(static_cast<std::mt19937::result_type>(game)); // the same in every run
-            std::vector<float> shuffle(2080);
-            std::generate(shuffle.begin(), shuffle.end(), [&] { return static_cast<float>(random() >> 8) / 0x1p24F; });
             const Settings settings{deck, game % 3, game / 3 % 6, game / 18 % 2, look % 4, look / 4 % 2};
-            ASSERT_NO_THROW(playToTheWin(settings, shuffle));
+            ASSERT_NO_THROW(playToTheWin(settings, shuffle(game)));
         }
+    }
+
+    /// The same in every run.
+    static std::vector<float> shuffle(std::size_t game) {
+        std::mt19937 random(static_cast<std::mt19937::result_type>(game));
+        std::vector<float> values(2080);
+        std::generate(values.begin(), values.end(), [&] { return static_cast<float>(random() >> 8) / 0x1p24F; });
+        return values;
     }
 };
 
@@ -31,6 +36,15 @@ TEST_P(EverySetting, IsPlayedToTheWin) {
 
 TEST_P(EverySetting, IsPlayedToTheWinWithEveryBackAndFace) {
     play(GetParam(), 8);
+}
+
+// In each size and layout, the orders in turn.
+TEST_P(EverySetting, IsWonByKeysAlone) {
+    for (std::size_t game = 0; game < 6; ++game) {
+        SCOPED_TRACE(game);
+        const Settings settings{GetParam(), game % 3, (GetParam() + game) % 6, game / 3, game % 4, game % 2};
+        ASSERT_NO_THROW(playToTheWin(settings, shuffle(game), PlayedBy::Keys));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Deck, EverySetting, testing::Range<std::size_t>(0, 8));
