@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -49,10 +50,12 @@ public:
         table_.desktop.whileMessageIsOpen = [this] {
             check();
             const std::size_t painted = log().size();
+            const auto ring = table_.pointer.ring();
             for (unsigned events = next() % 3; events > 0 && game_; --events) {
                 tableEvent();
             }
             require(log().size() == painted, "a box is open, and the table hears of the mouse");
+            require(table_.pointer.ring() == ring, "a box is open, and the keyboard's pointer does something");
         };
         table_.desktop.whileModal = [](Form& about) { about.Form_Close(); };
         if (game_) {
@@ -67,6 +70,7 @@ public:
                 look();
             }
         }
+        checkStops();
         if (looks) {
             checkPixels();
         }
@@ -123,6 +127,33 @@ private:
         }
     }
 
+    void key() {
+        const unsigned key = next() % 12;
+        const unsigned with = next();
+        table_.pointer.key({.key = static_cast<PointerKey>(key),
+                            .shift = with % 4 == 3,
+                            .control = with % 8 == 7,
+                            .alt = with >= 250,
+                            .meta = with >= 253,
+                            .repeated = with % 5 == 4});
+        const auto ring = table_.pointer.ring();
+        require(!ring || canBeAStop(ring->at), "the keyboard's pointer lies where it cannot");
+    }
+
+    void finger(Point at) {
+        const unsigned what = next() % 16;
+        const int number = what % 4 == 3 ? 2 : 1;
+        if (what < 6) {
+            table_.finger.touch(number, at, static_cast<float>(what) * 100);
+        } else if (what < 10) {
+            table_.finger.move(number, at);
+        } else if (what < 13) {
+            table_.finger.lift(number, at);
+        } else {
+            what == 13 ? table_.finger.cancel() : table_.finger.longPress();
+        }
+    }
+
     void tableEvent() {
         const unsigned kind = next();
         if (kind >= 252) {
@@ -134,13 +165,18 @@ private:
         const bool armed = tracker().moveInProg();
         if (kind < 80) {
             table_.press(at, static_cast<std::int16_t>(kind < 64 ? 1 : number(4).value));
-        } else if (kind < 200) {
+        } else if (kind < 140) {
             table_.move(at);
+        } else if (kind < 180) {
+            key();
+        } else if (kind < 200) {
+            finger(at);
         } else {
             table_.release(at);
-            if (armed && table_.picture().takesInput()) {
-                checkDrop(painted);
-            }
+        }
+        const bool drops = kind >= 200 || (kind >= 140 && kind < 180 && !tracker().moveInProg());
+        if (armed && drops && table_.picture().takesInput()) {
+            checkDrop(painted);
         }
     }
 
@@ -206,6 +242,7 @@ private:
         const bool onTable = std::all_of(painting.items().begin(), painting.items().end(), [&](const auto& item) {
             return painting.bounds().meets(item.place, Painting::fringe);
         });
+        checkStops();
         tracker().identifyCard(limits::quiet_NaN(), 0);
         tracker().endCurCardMove(); // of no card: a redraw of the list
         const auto drop = std::span(log()).subspan(before, dropped - before);
@@ -222,6 +259,21 @@ private:
         const auto after = std::search(drop.rbegin(), drop.rend(), list.rbegin(), list.rend()) - drop.rbegin();
         const bool lastIsOnTable = std::find(list.begin(), list.end(), drop.back()) != list.end();
         require(after <= 1 && lastIsOnTable, "a drop ends otherwise");
+    }
+
+    bool canBeAStop(Point at) {
+        const PictureBox& box = table_.picture();
+        return box.reach.contains(at) && std::floor(at.x) == at.x && std::floor(at.y) == at.y;
+    }
+
+    /// Unless a drag is on, there is something at each.
+    void checkStops() {
+        const PictureBox& box = table_.picture();
+        for (const Point at : stops(box.painting(), box.reach)) {
+            require(canBeAStop(at), "a stop where there can be none");
+            const bool free = game_ && !tracker().moveInProg();
+            require(!free || tracker().identifyCard(at.x, at.y) != nullptr, "a stop on the bare table");
+        }
     }
 
     /// A window shows the painting as it is now, sometimes at another scale.

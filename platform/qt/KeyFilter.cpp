@@ -11,6 +11,8 @@ std::optional<Key> keyOf(const QKeyEvent& event) {
         return Key::Enter;
     case Qt::Key_Escape:
         return Key::Esc;
+    case Qt::Key_F1:
+        return Key::F1;
     case Qt::Key_F11:
         return Key::F11;
     default:
