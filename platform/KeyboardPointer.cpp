@@ -56,7 +56,7 @@ bool KeyboardPointer::key(const PointerKeyPress& press) {
         return false;
     }
     const bool moves = direction(press.key) != Point();
-    const bool mouseHolds = hand_.holds() && !holds_;
+    const bool mouseHolds = hand_.holds() && !bySpace_;
     if (!hand_.takesInput() || mouseHolds || (press.repeated && !moves)) {
         return true;
     }
@@ -73,7 +73,7 @@ bool KeyboardPointer::key(const PointerKeyPress& press) {
     } else if (holds()) {
         letGo(Shift);
     } else {
-        holds_ = true;
+        bySpace_ = true;
         hand_.press(leftButton, Shift, *at_);
     }
     return true;
@@ -87,7 +87,7 @@ void KeyboardPointer::press(std::int16_t Button, std::int16_t Shift, Point at) {
     if (holds()) {
         hand_.letGo(); // where the mouse may have carried it since
     }
-    holds_ = false;
+    bySpace_ = false;
     hand_.press(Button, Shift, at);
 }
 
@@ -153,7 +153,6 @@ void KeyboardPointer::click(std::int16_t Shift) {
 
 // Then a move, so that the box says what lies there now.
 void KeyboardPointer::letGo(std::int16_t Shift) {
-    holds_ = false;
     hand_.release(leftButton, Shift, *at_);
     hand_.move(0, Shift, *at_);
 }

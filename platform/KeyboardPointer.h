@@ -46,7 +46,7 @@ public:
     std::optional<Ring> ring() const;
 
 private:
-    bool holds() const { return holds_ && hand_.holds(); }
+    bool holds() const { return bySpace_ && hand_.holds(); }
     Rect part() const;
     std::vector<Point> stopsNow() const;
     Point goal(const PointerKeyPress& press) const;
@@ -58,7 +58,7 @@ private:
     Hand& hand_;
     std::optional<Point> at_; // where it is or was; none at first
     bool shows_ = false;
-    bool holds_ = false;         // Space has pressed, and not released
+    bool bySpace_ = false;       // what the hand holds was pressed by Space, not by the mouse
     std::optional<Point> mouse_; // where the mouse rests while the pointer shows
 };
 

@@ -53,13 +53,10 @@ double area(const Rect& rect) {
     return (static_cast<double>(rect.right) - rect.left + 1) * (static_cast<double>(rect.bottom) - rect.top + 1);
 }
 
-std::optional<Point> middleOfLargest(const std::vector<Rect>& rects) {
-    const auto largest = std::max_element(rects.begin(), rects.end(),
-                                          [](const Rect& one, const Rect& other) { return area(one) < area(other); });
-    if (largest == rects.end()) {
-        return std::nullopt;
-    }
-    return Point{std::floor((largest->left + largest->right) / 2), std::floor((largest->top + largest->bottom) / 2)};
+Point middleOfLargest(const std::vector<Rect>& rects) {
+    const Rect& largest = *std::max_element(rects.begin(), rects.end(),
+                                            [](const Rect& one, const Rect& other) { return area(one) < area(other); });
+    return {std::floor((largest.left + largest.right) / 2), std::floor((largest.top + largest.bottom) / 2)};
 }
 
 /// The stop of the least cost; one of infinite cost is none.
@@ -103,9 +100,8 @@ std::vector<Point> stops(const Painting& painting, const Rect& part, const std::
                 open = without(open, hidden);
             }
         }
-        if (const auto stop = middleOfLargest(open);
-            stop && std::find(found.begin(), found.end(), *stop) == found.end()) {
-            found.push_back(*stop);
+        if (!open.empty()) {
+            found.push_back(middleOfLargest(open));
         }
     }
     return found;

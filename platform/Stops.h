@@ -15,8 +15,9 @@ struct Ring {
 };
 
 /// Where the keyboard's pointer stops: of each opaque item that is no erasure, the middle of the largest rectangle that
-/// it leaves to see within `part`. Whole twips, in the order of the painting, equal ones once. The item under the ring
-/// is no stop; while the ring holds, it is taken for what the ring carries, and hides nothing.
+/// it leaves to see within `part`. Whole twips, in the order of the painting; no two are equal, as each lies on another
+/// item. The item under the ring has no stop; while the ring holds, it is taken for what the ring carries, and hides
+/// nothing.
 std::vector<Point> stops(const Painting& painting, const Rect& part, const std::optional<Ring>& ring = {});
 
 /// The best of the stops within 45 degrees of a direction, which is one step along an axis: the least way along it and

@@ -65,18 +65,6 @@ TEST(StopsTest, BestIsTheLeastWayAlongAndAcrossWithin45Degrees) {
     EXPECT_EQ(stopTowards(places, {150, 0}, {1, 0}), std::nullopt);
 }
 
-/// The stops that some way leads to from the first one.
-std::set<std::size_t> reached(const std::vector<std::vector<std::size_t>>& ways) {
-    std::set<std::size_t> found{0};
-    for (std::vector<std::size_t> open{0}; !open.empty();) {
-        const std::size_t from = open.back();
-        open.pop_back();
-        std::copy_if(ways[from].begin(), ways[from].end(), std::back_inserter(open),
-                     [&](std::size_t to) { return found.insert(to).second; });
-    }
-    return found;
-}
-
 TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOther) {
     for (std::size_t game = 0; game < 48; ++game) {
         SCOPED_TRACE(game);
@@ -89,24 +77,33 @@ TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOt
         const PictureBox& box = table.picture();
         const std::vector<Point> all = stops(box.painting(), box.reach);
         std::set<const Card*> on;
-        std::vector<std::vector<std::size_t>> ways(all.size());
-        std::vector<std::vector<std::size_t>> back(all.size());
+        using Way = std::pair<std::size_t, std::size_t>;
+        std::vector<Way> ways;
         for (std::size_t from = 0; from < all.size(); ++from) {
             on.insert(table.tracker().identifyCard(all[from].x, all[from].y).get());
             const std::vector<Point> others = stops(box.painting(), box.reach, Ring{all[from]});
             for (const Point arrow : {Point{-1, 0}, {0, -1}, {1, 0}, {0, 1}}) {
                 if (const auto next = stopTowards(others, all[from], arrow)) {
-                    const auto to = static_cast<std::size_t>(std::find(all.begin(), all.end(), *next) - all.begin());
-                    ways[from].push_back(to);
-                    back.at(to).push_back(from);
+                    ways.emplace_back(from, std::find(all.begin(), all.end(), *next) - all.begin());
                 }
             }
         }
-        const std::size_t count =
-            settings.layout == 1 ? 5 : static_cast<std::size_t>(cardsOfDeck.at(settings.deck)) + 4;
-        EXPECT_TRUE(all.size() == count && on.size() == count && !on.contains(nullptr)) << all.size();
-        EXPECT_EQ(reached(ways).size(), count);
-        EXPECT_EQ(reached(back).size(), count);
+        const auto reached = [&](std::size_t Way::*from, std::size_t Way::*to) {
+            std::set<std::size_t> found{0};
+            for (std::size_t before = 0; before != found.size();) {
+                before = found.size();
+                for (const Way& way : ways) {
+                    if (found.contains(way.*from)) {
+                        found.insert(way.*to);
+                    }
+                }
+            }
+            return found.size();
+        };
+        const auto cards = static_cast<std::size_t>(settings.layout == 1 ? 1 : cardsOfDeck.at(settings.deck));
+        EXPECT_TRUE(all.size() == cards + 4 && on.size() == all.size() && !on.contains(nullptr)) << all.size();
+        EXPECT_EQ(reached(&Way::first, &Way::second), all.size());
+        EXPECT_EQ(reached(&Way::second, &Way::first), all.size());
     }
 }
 
@@ -135,149 +132,138 @@ public:
     std::string heard;
 };
 
-struct Input {
-    /// Presses keys, in words: "Home Shift+Left held+Space"; gives those that are not the pointer's, and
-    /// what the box has heard since the last call.
-    std::string press(const std::string& keys) {
-        static const std::map<std::string, PointerKey> names{
-            {"Left", PointerKey::Left},   {"Up", PointerKey::Up},
-            {"Right", PointerKey::Right}, {"Down", PointerKey::Down},
-            {"Home", PointerKey::Home},   {"PageUp", PointerKey::PageUp},
-            {"End", PointerKey::End},     {"PageDown", PointerKey::PageDown},
-            {"Space", PointerKey::Space}, {"F", PointerKey::F},
-            {"Menu", PointerKey::Menu},   {"F10", PointerKey::F10}};
-        std::istringstream words(keys);
-        std::string others;
+/// The box, and what acts on it.
+class Desk {
+public:
+    /// What the player does, in words: keys, "Shift+Left held+Space"; the mouse, "press 1 200 100" with the button; a
+    /// finger, "touch 1 200 100" with its number. Gives the keys that are not the pointer's, what the box has heard,
+    /// and the ring.
+    std::string act(const std::string& script) {
+        std::istringstream words(script);
+        std::string told;
         for (std::string word; words >> word;) {
-            const auto with = [&](const char* prefix) { return word.find(prefix) != std::string::npos; };
-            others += pointer.key({.key = names.at(word.substr(word.rfind('+') + 1)),
-                                   .shift = with("Shift+"),
-                                   .control = with("Ctrl+"),
-                                   .alt = with("Alt+"),
-                                   .meta = with("Meta+"),
-                                   .repeated = with("held+")})
-                          ? ""
-                          : word + " ";
+            const auto place = places_.find(word);
+            if (place != places_.end()) {
+                std::int16_t number = 0;
+                Point at;
+                words >> number >> at.x >> at.y;
+                place->second(number, at);
+            } else if (word == "longPress" || word == "cancel") {
+                word == "cancel" ? finger_.cancel() : finger_.longPress();
+            } else if (!key(word)) {
+                told += word + " ";
+            }
         }
-        return others + heard();
+        told += std::exchange(form.heard, "");
+        if (const auto ring = pointer_.ring()) {
+            std::ostringstream text;
+            text << (ring->holds ? "holds " : "ring ") << ring->at.x << "," << ring->at.y;
+            told += text.str();
+        }
+        return told;
     }
-    std::string heard() { return std::exchange(form.heard, ""); }
-    void expectRing(Point at, bool holds) const { EXPECT_EQ(pointer.ring(), (Ring{at, holds})); }
 
     MemoryDesktop desktop{application()};
     Blocks form;
     Hand hand{form.box};
-    KeyboardPointer pointer{hand};
-    Finger finger{pointer};
+
+private:
+    bool key(const std::string& word) {
+        static const std::vector<std::string> names{"Left", "Up",       "Right", "Down", "Home", "PageUp",
+                                                    "End",  "PageDown", "Space", "F",    "Menu", "F10"};
+        const auto name = std::find(names.begin(), names.end(), word.substr(word.rfind('+') + 1));
+        const auto with = [&](const char* prefix) { return word.find(prefix) != std::string::npos; };
+        return pointer_.key({.key = static_cast<PointerKey>(name - names.begin()),
+                             .shift = with("Shift+"),
+                             .control = with("Ctrl+"),
+                             .alt = with("Alt+"),
+                             .meta = with("Meta+"),
+                             .repeated = with("held+")});
+    }
+
+    KeyboardPointer pointer_{hand};
+    Finger finger_{pointer_};
+    const std::map<std::string, std::function<void(std::int16_t, Point)>> places_{
+        {"press", [this](auto button, Point at) { pointer_.press(button, 0, at); }},
+        {"move", [this](auto button, Point at) { pointer_.move(button, 0, at); }},
+        {"release", [this](auto button, Point at) { pointer_.release(button, 0, at); }},
+        {"touch", [this](auto number, Point at) { finger_.touch(number, at, 150); }},
+        {"drag", [this](auto number, Point at) { finger_.move(number, at); }},
+        {"lift", [this](auto number, Point at) { finger_.lift(number, at); }}};
 };
 
 TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
     const std::vector<std::pair<std::string, std::string>> cases{
-        {"Left", "move 0 0 200,200; "},
-        {"Up", "move 0 0 1100,200; "},
-        {"Right", "move 0 0 2700,200; "},
-        {"Down", ""},
-        {"Home Shift+Home", "move 0 0 200,200; "}, // where it stays
-        {"PageUp", "move 0 0 2700,200; "},
-        {"End held+Right", "move 0 0 200,1600; move 0 0 1500,900; "},
-        {"PageDown", "move 0 0 2700,1600; "},
-        {"Shift+Left held+Shift+Up", "move 0 1 1350,900; move 0 1 1350,750; "},
-        {"Ctrl+Shift+Right held+Ctrl+Shift+Down", "move 0 3 1515,900; move 0 3 1515,915; "},
+        {"Left", "move 0 0 200,200; ring 200,200"},
+        {"Up", "move 0 0 1100,200; ring 1100,200"},
+        {"Right", "move 0 0 2700,200; ring 2700,200"},
+        {"Down", "ring 1500,900"},
+        {"Home Shift+Home", "move 0 0 200,200; ring 200,200"}, // where it stays
+        {"PageUp", "move 0 0 2700,200; ring 2700,200"},
+        {"End held+Right", "move 0 0 200,1600; move 0 0 1500,900; ring 1500,900"},
+        {"PageDown", "move 0 0 2700,1600; ring 2700,1600"},
+        {"Shift+Left held+Shift+Up", "move 0 1 1350,900; move 0 1 1350,750; ring 1350,750"},
+        {"Ctrl+Shift+Right held+Ctrl+Shift+Down", "move 0 3 1515,900; move 0 3 1515,915; ring 1515,915"},
         {"PageDown Shift+Right Shift+Right Shift+Right",
-         "move 0 0 2700,1600; move 0 1 2850,1600; move 0 1 2929,1600; "},
-        {"Space held+Space Home Space held+Space",
-         "down 1 0 1500,900; move 1 0 200,200; up 1 0 200,200; move 0 0 200,200; "},
-        {"F held+F", "down 2 0 1500,900; up 2 0 1500,900; "},
-        {"Menu held+Menu", "down 2 0 1500,900; up 2 0 1500,900; "},
-        {"Shift+F10 held+Shift+F10", "down 2 1 1500,900; up 2 1 1500,900; "},
-        {"Space F", "down 1 0 1500,900; down 2 0 1500,900; up 2 0 1500,900; up 1 0 1500,900; move 0 0 1500,900; "}};
-    for (const auto& [keys, heard] : cases) {
-        Input input;
-        EXPECT_EQ(input.pointer.ring(), std::nullopt);
-        EXPECT_EQ(input.press("held+Right"), "move 0 0 1500,900; ");
-        EXPECT_EQ(input.press(keys), heard) << keys;
-    }
-    Input input;
+         "move 0 0 2700,1600; move 0 1 2850,1600; move 0 1 2929,1600; ring 2929,1600"},
+        {"Space held+Space Home", "down 1 0 1500,900; move 1 0 200,200; holds 200,200"},
+        {"Space Space held+Space", "down 1 0 1500,900; up 1 0 1500,900; move 0 0 1500,900; ring 1500,900"},
+        {"F held+F", "down 2 0 1500,900; up 2 0 1500,900; ring 1500,900"},
+        {"Menu held+Menu", "down 2 0 1500,900; up 2 0 1500,900; ring 1500,900"},
+        {"Shift+F10 held+Shift+F10", "down 2 1 1500,900; up 2 1 1500,900; ring 1500,900"},
+        {"Space F", "down 1 0 1500,900; down 2 0 1500,900; up 2 0 1500,900; up 1 0 1500,900; move 0 0 1500,900; "
+                    "ring 1500,900"}};
     const std::string others =
         "F10 Ctrl+F Alt+F Meta+F Ctrl+Space Alt+Menu Ctrl+Left Alt+Shift+Up Meta+Down Ctrl+Home ";
-    EXPECT_EQ(input.press(others), others);
-    EXPECT_EQ(input.pointer.ring(), std::nullopt);
-    input.form.box.Cls();
-    EXPECT_EQ(input.press("Space Left Home F"),
-              "move 0 0 1464,964; down 2 0 1464,964; up 2 0 1464,964; "); // without any stop
+    for (const auto& [keys, told] : cases) {
+        Desk desk;
+        EXPECT_EQ(desk.act(others), others);
+        EXPECT_EQ(desk.act("held+Right"), "move 0 0 1500,900; ring 1500,900");
+        EXPECT_EQ(desk.act(keys), told) << keys;
+    }
+    Desk desk;
+    desk.form.box.Cls(); // and with it every stop
+    EXPECT_EQ(desk.act("Space Left Home Space"), "move 0 0 1464,964; down 1 0 1464,964; holds 1464,964");
+    desk.hand.letGo(); // as a desktop does when the window has gone
+    EXPECT_EQ(desk.act("End"), "up 1 0 1464,964; ring 1464,964");
 }
 
 TEST(KeyboardPointerTest, GoesWhenTheMouseMovesFarOrPressesAndComesBackWhereItWas) {
-    Input input;
-    input.press("Right Home");
-    for (const Point near : {Point{2000, 1000}, {2060, 1000}, {1964, 1048}}) { // the first, from wherever it was
-        input.pointer.move(0, 0, near);
+    Desk desk;
+    const std::vector<std::pair<std::string, std::string>> steps{
+        {"Right Home", "move 0 0 1500,900; move 0 0 200,200; ring 200,200"},
+        {"move 0 2000 1000 move 0 2060 1000 move 0 1964 1048", "ring 200,200"}, // the first, from anywhere
+        {"move 0 2061 1000", "move 0 0 2061,1000; "},
+        {"PageDown Space", "move 0 0 200,200; down 1 0 200,200; holds 200,200"},
+        {"press 2 1000 1000", "up 1 0 200,200; down 2 0 1000,1000; "},
+        {"Space Left F", ""}, // the mouse holds a button
+        {"release 2 1000 1000 Space Space", "up 2 0 1000,1000; move 0 0 200,200; down 1 0 200,200; holds 200,200"},
+        {"move 0 900 1000", "holds 200,200"},
+        {"move 0 2900 1000", "move 0 0 2900,1000; "}, // what Space holds goes along
+        {"press 1 2900 1000", "up 1 0 2900,1000; down 1 0 2900,1000; "}};
+    for (const auto& [script, told] : steps) {
+        EXPECT_EQ(desk.act(script), told) << script;
     }
-    EXPECT_EQ(input.heard(), "");
-    input.expectRing({200, 200}, false);
-    input.pointer.move(0, 0, {2061, 1000});
-    EXPECT_EQ(input.heard(), "move 0 0 2061,1000; ");
-    EXPECT_EQ(input.pointer.ring(), std::nullopt);
-    EXPECT_EQ(input.press("PageDown Space"), "move 0 0 200,200; down 1 0 200,200; ");
-    input.expectRing({200, 200}, true);
-    input.pointer.press(2, 1, {1000, 1000});
-    EXPECT_EQ(input.press("Space Left F"), "up 1 0 200,200; down 2 1 1000,1000; ");
-    EXPECT_EQ(input.pointer.ring(), std::nullopt); // the mouse holds a button
-    input.pointer.release(2, 0, {1000, 1000});
-    input.press("Space Space");
-    input.pointer.move(0, 0, {2000, 1000});
-    input.pointer.move(0, 0, {2900, 1000}); // and takes what Space holds along
-    input.pointer.press(1, 0, {2900, 1000});
-    EXPECT_EQ(input.heard(), "move 0 0 2900,1000; up 1 0 2900,1000; down 1 0 2900,1000; ");
-    input.pointer.release(1, 0, {2900, 1000});
-    input.press("Space Space");
-    input.hand.letGo(); // as a desktop does when the window has gone
-    input.expectRing({200, 200}, false);
 }
 
-// Cards lie on a real table; what the player does meanwhile goes elsewhere.
 TEST(KeyboardPointerTest, WhatSpaceHoldsStaysHeldThroughEveryInterruption) {
-    const auto space = [](Table& table) { table.pointer.key({PointerKey::Space}); };
-    const auto busy = [&](Table& table) {
-        for (const PointerKey key : {PointerKey::Space, PointerKey::End, PointerKey::F}) {
-            EXPECT_TRUE(table.pointer.key({key}));
-        }
-        table.move({9000, 5000});
-        table.move({1000, 1000});
-        table.press({1000, 1000});
-    };
-    const std::vector<std::pair<std::string, std::function<void(Table&)>>> interruptions{
-        {"to a button by Tab, and back", [](Table&) {}},
-        {"a message box", [](Table& table) { table.program.table().cmdHelp.Click(); }},
-        {"another window", [](Table& table) { table.program.table().cmdAbout.Click(); }},
-        {"the hourglass", [&](Table& table) {
-             table.program.table().MousePointer(Pointer::Hourglass);
-             busy(table);
-             table.program.table().MousePointer(Pointer::Default);
-         }}};
-    for (const auto& [what, interrupt] : interruptions) {
-        SCOPED_TRACE(what);
-        Table table;
-        table.desktop.whileMessageIsOpen = [&] { busy(table); };
-        table.desktop.whileModal = [&](Form& about) {
-            busy(table);
-            about.Unload();
-        };
-        table.lay(rkFive, suHeart, 4000, 2000);
-        table.lay(rkSix, suHeart, 1000, 1000);
-        space(table);
-        space(table);
-        table.pointer.key({PointerKey::Home});
-        const auto carried = table.pointer.ring();
-        table.painted();
-        interrupt(table);
-        EXPECT_EQ(table.painted(), "");
-        EXPECT_TRUE(table.tracker().moveInProg());
-        EXPECT_EQ(table.pointer.ring(), carried);
-        space(table);
-        EXPECT_EQ(table.label(), "Five of Hearts");
-        EXPECT_EQ(table.pointer.ring(), (Ring{carried->at, false}));
-        EXPECT_EQ(table.cards(), "SixHearts 1000,1000; FiveHearts 1000,1000");
+    using Interruption = std::function<void(Desk&)>;
+    const std::string meanwhile = "Space End F move 0 900 100 move 0 100 900 press 1 100 900 release 1 100 900";
+    for (const Interruption& interrupt :
+         {Interruption([](Desk& desk) { desk.desktop.MsgBox("text"); }),
+          Interruption([](Desk&) { Form("another window", 100, 100).Show(Modality::Modal); }),
+          Interruption([&](Desk& desk) {
+              desk.form.MousePointer(Pointer::Hourglass);
+              desk.act(meanwhile);
+              desk.form.MousePointer(Pointer::Default);
+          })}) {
+        Desk desk;
+        desk.desktop.whileMessageIsOpen = [&] { desk.act(meanwhile); };
+        desk.desktop.whileModal = [&](Form&) { desk.act(meanwhile); };
+        EXPECT_EQ(desk.act("Space Space Home"),
+                  "move 0 0 1500,900; down 1 0 1500,900; move 1 0 200,200; holds 200,200");
+        interrupt(desk);
+        EXPECT_EQ(desk.act("Space"), "up 1 0 200,200; move 0 0 200,200; ring 200,200");
     }
 }
 
@@ -285,71 +271,24 @@ TEST(FingerTest, WhatATouchMeansShowsLater) {
     const std::string click = "down 1 0 500,500; up 1 0 500,500; ";
     const std::string rightClick = "down 2 0 500,500; up 2 0 500,500; ";
     const std::string drag = "down 1 0 500,500; move 1 0 590,620; ";
-    const std::vector<std::pair<std::function<void(Finger&)>, std::string>> cases{
-        {[](Finger& finger) {
-             finger.move(1, {590, 619});
-         },
-         ""},
-        {[](Finger& finger) {
-             finger.lift(1, {590, 619});
-         },
-         click},
-        {[](Finger& finger) {
-             finger.move(1, {590, 620});
-         },
-         drag},
-        {[](Finger& finger) { finger.longPress(); }, rightClick},
-        {[](Finger& finger) { finger.cancel(); }, ""},
-        {[](Finger& finger) {
-             finger.longPress();
-             finger.longPress();
-             finger.move(1, {900, 900});
-             finger.lift(1, {900, 900});
-             finger.longPress();
-         },
-         rightClick},
-        {[](Finger& finger) {
-             finger.move(1, {590, 620});
-             finger.longPress();
-             finger.move(1, {500, 500});
-             finger.lift(1, {510, 500});
-         },
-         drag + "move 1 0 500,500; up 1 0 510,500; "},
-        {[](Finger& finger) {
-             finger.move(1, {590, 620});
-             finger.cancel();
-             finger.lift(1, {900, 900});
-         },
-         drag + "up 1 0 590,620; "},
-        {[](Finger& finger) { // a second one
-             finger.touch(2, {100, 100}, 0);
-             finger.move(2, {900, 900});
-             finger.lift(1, {500, 500});
-             finger.move(2, {100, 100});
-             finger.longPress();
-             finger.lift(2, {100, 100});
-         },
-         click},
-        {[](Finger& finger) { // one after the other
-             finger.lift(1, {500, 500});
-             finger.touch(2, {500, 500}, 150);
-             finger.move(2, {590, 620});
-         },
-         click + drag}};
-    for (const auto& [then, heard] : cases) {
-        Input input;
-        input.finger.touch(1, {500, 500}, 150);
-        EXPECT_EQ(input.heard(), "");
-        then(input.finger);
-        EXPECT_EQ(input.heard(), heard);
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"drag 1 590 619", ""},
+        {"lift 1 590 619", click},
+        {"drag 1 590 620", drag},
+        {"drag 1 590 620 longPress drag 1 500 500 lift 1 510 500", drag + "move 1 0 500,500; up 1 0 510,500; "},
+        {"longPress longPress drag 1 900 900 lift 1 900 900 longPress", rightClick},
+        {"drag 1 590 620 cancel lift 1 900 900", drag + "up 1 0 590,620; "},
+        {"cancel touch 2 500 500 lift 2 500 500", click},
+        {"touch 2 100 100 drag 2 900 900 lift 1 500 500 drag 2 100 100 longPress lift 2 100 100", click},
+        {"lift 1 500 500 touch 2 500 500 drag 2 590 620", click + drag}};
+    for (const auto& [script, told] : cases) {
+        Desk desk;
+        EXPECT_EQ(desk.act("touch 1 500 500"), "");
+        EXPECT_EQ(desk.act(script), told) << script;
     }
-    Input input;
-    input.press("Space Space");
-    input.finger.touch(1, {500, 500}, 150);
-    input.expectRing({1500, 900}, true);
-    input.finger.lift(1, {500, 500});
-    EXPECT_EQ(input.heard(), "up 1 0 1500,900; " + click);
-    EXPECT_EQ(input.pointer.ring(), std::nullopt);
+    Desk desk;
+    EXPECT_EQ(desk.act("Space Space touch 1 500 500 lift 1 500 500"),
+              "move 0 0 1500,900; down 1 0 1500,900; up 1 0 1500,900; " + click);
 }
 
 } // namespace
