@@ -33,11 +33,16 @@ TEST(LayoutTest, AFormIsAsLargeAsFitsInTheMiddleOfItsWindow) {
 
 TEST(LayoutTest, AChoiceMayUseHalfOfTheSpaceAboveAndBelowAndSomeOnItsRight) {
     const MemoryDesktop desktop(application());
-    const frmTumbleOptions options({});
-    EXPECT_EQ(roomOf(options.optNaturalOrder), (Place{240, 187.5F, 1575, 480})); // as far right as any
-    EXPECT_EQ(roomOf(options.optByRankSuitAsc), (Place{240, 1147.5F, 1770, 480}));
-    EXPECT_EQ(roomOf(options.optCardNormal), (Place{240, 960, 1035, 495})); // touched from above
-    EXPECT_EQ(roomOf(options.optDeck36Card), (Place{240, 720, 1995, 255}));
+    Form form("", 2000, 3000);
+    const PictureBox beside(form, "", "", {1200, 0, 700, 1600}, 0, windowColour);
+    const OptionButton first(form, "", "", {100, 500, 1000, 300}, 0, {});
+    const OptionButton second(form, "", "", {100, 1000, 1090, 300}, 0, {});
+    const OptionButton third(form, "", "", {100, 1300, 500, 300}, 0, {}); // touches the second
+    const OptionButton fourth(form, "", "", {100, 2500, 1800, 300}, 0, {});
+    EXPECT_EQ(roomOf(first), (Place{100, 400, 1055, 500}));
+    EXPECT_EQ(roomOf(second), (Place{100, 1000, 1090, 300}));
+    EXPECT_EQ(roomOf(third), (Place{100, 1300, 740, 300}));
+    EXPECT_EQ(roomOf(fourth), (Place{100, 2350, 1855, 600}));
 }
 
 TEST(ScreenRoomTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
