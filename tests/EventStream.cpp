@@ -5,8 +5,9 @@
 #include "tests/Player.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -93,9 +94,13 @@ private:
         constexpr std::array odd{limits::infinity(), -limits::infinity(),  limits::quiet_NaN(), limits::max(),
                                  limits::lowest(),   limits::denorm_min(), 8388607.5F,          2147483648.0F};
         const unsigned byte = next();
-        return byte < 200   ? static_cast<float>(next16() % 20000) / 2 - 500
-               : byte < 230 ? odd.at(byte % odd.size())
-                            : std::bit_cast<float>(next16() << 16U | next16());
+        if (byte < 230) {
+            return byte < 200 ? static_cast<float>(next16() % 20000) / 2 - 500 : odd.at(byte % odd.size());
+        }
+        const std::uint32_t bits = next16() << 16U | next16();
+        float any = 0;
+        std::memcpy(&any, &bits, sizeof any); // std::bit_cast is not everywhere yet
+        return any;
     }
     /// On the table or beyond its edges, often on a pile.
     Point place() {

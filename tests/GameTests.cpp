@@ -251,7 +251,7 @@ TEST(ClockRandomTest, ValuesFillTheRangeFromZeroToBelowOneAndAreOthersAtEachTick
     EXPECT_TRUE(*least >= 0 && *least < 0.01F && *most > 0.99F && *most < 1);
     std::chrono::system_clock::time_point now;
     const auto firstOfARun = [&now] {
-        ClockRandom seeded([&now] { return ++now; });
+        ClockRandom seeded([&now] { return now += std::chrono::system_clock::duration(1); });
         seeded.Randomize();
         return seeded.Rnd();
     };
