@@ -34,58 +34,34 @@ constexpr std::array<Colouring, 4> colourings = {{
     {rgb(0, 255, 128), rgb(128, 128, 0), rgb(0, 128, 0)},
 }};
 
-/// What a motif has in one colour. Its middle is the origin.
+/// A shape of a motif, whose middle is the origin, and its mark in the motif's pixels.
 struct Ink {
-    Path shape;
-    std::string_view quarter; ///< The pixels of the upper left quarter, for tiles of the smallest rendition.
+    Outline shape;
+    char mark;
     Colour colour;
 };
 
-/// A flower of four petals with a leaf between each two.
-Path flower() {
-    const Path petal = completed(outline("M0 -1.5 L0.5 -1.5 L0.5 -2 L2.5 -4 L2.5 -5 L1 -6.5 L0 -6.5"));
-    const Path leaf = outline("M3.5 3.5 L5.5 3.5 L5.5 5.5 L3.5 5.5 Z");
-    constexpr Vec2 right{1, 0};
-    constexpr Vec2 down{0, 1};
-    Path path;
-    for (const Transform& turn : {Transform{right, down, {}}, Transform{down, -right, {}}, Transform{-right, -down, {}},
-                                  Transform{-down, right, {}}}) {
-        path.add(petal.mapped(turn));
-        path.add(leaf.mapped(turn));
-    }
-    return path;
-}
+/// Four petals with a leaf between each two.
+constexpr Outline flower = "M-0.5 -1.5 L0.5 -1.5 L0.5 -2 L2.5 -4 L2.5 -5 L1 -6.5 L-1 -6.5 L-2.5 -5 L-2.5 -4 L-0.5 -2 Z "
+                           "M-0.5 1.5 L-0.5 2 L-2.5 4 L-2.5 5 L-1 6.5 L1 6.5 L2.5 5 L2.5 4 L0.5 2 L0.5 1.5 Z "
+                           "M-1.5 -0.5 L-2 -0.5 L-4 -2.5 L-5 -2.5 L-6.5 -1 L-6.5 1 L-5 2.5 L-4 2.5 L-2 0.5 L-1.5 0.5 Z "
+                           "M1.5 -0.5 L1.5 0.5 L2 0.5 L4 2.5 L5 2.5 L6.5 1 L6.5 -1 L5 -2.5 L4 -2.5 L2 -0.5 Z "
+                           "M3.5 3.5 L5.5 3.5 L5.5 5.5 L3.5 5.5 Z M-5.5 3.5 L-3.5 3.5 L-3.5 5.5 L-5.5 5.5 Z "
+                           "M3.5 -5.5 L5.5 -5.5 L5.5 -3.5 L3.5 -3.5 Z M-5.5 -5.5 L-3.5 -5.5 L-3.5 -3.5 L-5.5 -3.5 Z";
+constexpr Outline heart = "M0 -1.5 L1.5 0 L0 1.5 L-1.5 0 Z";
+constexpr Outline knot = "M-0.5 -2 L0.5 -2 L2 -0.5 L2 0.5 L0.5 2 L-0.5 2 L-2 0.5 L-2 -0.5 Z"; // where four tiles meet
 
-constexpr std::string_view flowerQuarter = "........"
-                                           "......##"
-                                           "..##.###"
-                                           "..##.###"
-                                           "......##"
-                                           "..##...#"
-                                           ".####..."
-                                           ".#####..";
-
-/// The heart of a flower.
-Path heart() {
-    return outline("M0 -1.5 L1.5 0 L0 1.5 L-1.5 0 Z");
-}
-
-constexpr std::string_view heartQuarter = "........"
-                                          "........"
-                                          "........"
-                                          "........"
-                                          "........"
-                                          "........"
-                                          ".......#"
-                                          "......##";
-
-/// A knot where four tiles meet.
-Path knot() {
-    return outline("M-0.5 -2 L0.5 -2 L2 -0.5 L2 0.5 L0.5 2 L-0.5 2 L-2 0.5 L-2 -0.5 Z");
-}
-
-constexpr std::string_view knotQuarter = ".#"
-                                         "##";
+// The pixels of the upper left quarter of each motif, for tiles of the smallest rendition.
+constexpr std::string_view flowerPixels = "........"
+                                          "......##"
+                                          "..##.###"
+                                          "..##.###"
+                                          "......##"
+                                          "..##...#"
+                                          ".####..o"
+                                          ".#####oo";
+constexpr std::string_view knotPixels = ".o"
+                                        "oo";
 
 PixelRect upperLeftQuarter(const Canvas& canvas) {
     return {.left = 0, .top = 0, .right = (canvas.size().width - 1) / 2, .bottom = (canvas.size().height - 1) / 2};
@@ -112,18 +88,19 @@ int pitch(int side, int tiles, double units) {
 
 /// A motif on a transparent ground, for tiles of a size in pixels: of whole pixels where the tiles are those for which
 /// these were chosen.
-std::unique_ptr<Canvas> motif(const Canvas& like, std::initializer_list<Ink> inks, PixelSize size, PixelSize tiles) {
+std::unique_ptr<Canvas> motif(const Canvas& like, std::initializer_list<Ink> inks, std::string_view pixels,
+                              PixelSize size, PixelSize tiles) {
     auto image = like.another({std::max(1, size.width), std::max(1, size.height)}, {});
     const PixelRect quarter = upperLeftQuarter(*image);
     const Transform toPixels = Transform()
-                                   .moved({image->size().width / 2.0, image->size().height / 2.0})
+                                   .moved(toBox(image->bounds()).centre())
                                    .scaled(tiles.width / double{tile}, tiles.height / double{tile});
     image->clip(quarter);
-    for (const auto& [shape, pixels, colour] : inks) {
+    for (const auto& [shape, mark, colour] : inks) {
         if (tiles == PixelSize{tile, tile}) {
-            paintPixels(*image, pixels, quarter, colour);
+            paintPixels(*image, pixels, mark, quarter, colour);
         } else {
-            image->fill(shape, toPixels, colour);
+            image->fill(shape.path(), toPixels, colour);
         }
     }
     image->clip(image->bounds());
@@ -140,9 +117,9 @@ void drawBack(int colouring, Canvas& canvas) {
     const PixelSize knotHalf{static_cast<int>(std::ceil(step.width * knotWidth / tile / 2)),
                              static_cast<int>(std::ceil(step.height * knotWidth / tile / 2))};
     const auto flowers =
-        motif(canvas, {{flower(), flowerQuarter, flowerColour}, {heart(), heartQuarter, knotColour}}, step, step);
+        motif(canvas, {{flower, '#', flowerColour}, {heart, 'o', knotColour}}, flowerPixels, step, step);
     const auto knots =
-        motif(canvas, {{knot(), knotQuarter, knotColour}}, {knotHalf.width * 2, knotHalf.height * 2}, step);
+        motif(canvas, {{knot, 'o', knotColour}}, knotPixels, {knotHalf.width * 2, knotHalf.height * 2}, step);
     const PixelPoint first{(width - step.width * columns) / 2, (height - step.height * rows) / 2};
     canvas.fill(canvas.bounds(), ground);
     for (int row = 0; row <= rows / 2; ++row) {

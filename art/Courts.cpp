@@ -89,13 +89,6 @@ constexpr double sashHalfWidth = 28;
 constexpr double sashFall = 6;
 constexpr double sashHalfHeight = 2.4;
 
-PixelRect inset(const PixelRect& block, int across, int down) {
-    return {.left = block.left + across,
-            .top = block.top + down,
-            .right = block.right - across,
-            .bottom = block.bottom - down};
-}
-
 void paintSash(const Drawing& drawing, const Fabric& fabric) {
     constexpr Vec2 fall{sashHalfWidth, sashFall};
     constexpr Vec2 half{0, sashHalfHeight};
@@ -127,14 +120,12 @@ void paintFigure(Drawing drawing, const Body& body, const Costume& costume, cons
 void paintCourt(const Drawing& drawing, int rank, Suit suit) {
     const auto court = static_cast<std::size_t>(rank - firstCourtRank);
     const std::size_t figure = court * suitCount + static_cast<std::size_t>(suit);
-    const double unitWidth = drawing.toPixels.right.x;
-    const double unitHeight = drawing.toPixels.down.y;
-    const int line = std::max(1, static_cast<int>(std::lround(unitWidth)));
-    const int across = static_cast<int>(std::ceil(frameInset.x * unitWidth));
-    const int down = static_cast<int>(std::lround(frameInset.y * unitHeight));
-    const PixelRect frame = inset(fitted(drawing, wholeCard), across, down);
-    const PixelRect inside = inset(frame, line, line);
-
+    const double unit = drawing.toPixels.right.x;
+    const int line = std::max(1, static_cast<int>(std::lround(unit)));
+    const PixelRect frame = fitted(drawing, wholeCard)
+                                .inside(static_cast<int>(std::ceil(frameInset.x * unit)),
+                                        static_cast<int>(std::lround(frameInset.y * drawing.toPixels.down.y)));
+    const PixelRect inside = frame.inside(line, line);
     Canvas& canvas = drawing.canvas;
     canvas.clip(inside);
     paintFigure(drawing.moved(wholeCard.centre()), bodies.at(court), costumes.at(figure), regalia.at(figure));

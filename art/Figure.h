@@ -1,8 +1,8 @@
 #pragma once
 
-#include "art/Drawing.h"
 #include "art/Ink.h"
 #include "art/Outline.h"
+#include "platform/Canvas.h"
 
 #include <array>
 #include <cstddef>

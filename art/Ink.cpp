@@ -10,9 +10,8 @@ namespace {
 Colour mixture(int blacks, int reds, int yellows, int whites) {
     const int parts = blacks + reds + yellows + whites;
     const auto mixed = [&](std::size_t channel) {
-        const auto sum =
-            reds * channels(red)[channel] + yellows * channels(yellow)[channel] + whites * channels(white)[channel];
-        return (sum + parts / 2) / parts;
+        const auto of = [channel](Colour ink) { return channels(ink).at(channel); };
+        return (reds * of(red) + yellows * of(yellow) + whites * of(white) + parts / 2) / parts;
     };
     return rgb(mixed(0), mixed(1), mixed(2));
 }

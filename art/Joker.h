@@ -1,6 +1,6 @@
 #pragma once
 
-#include "art/Drawing.h"
+#include "platform/Canvas.h"
 
 namespace tumble {
 

@@ -34,15 +34,11 @@ PixelRect fitted(const Drawing& drawing, const Box& box) {
     return size.at({rounded(exact.corner.x), rounded(exact.corner.y)});
 }
 
-void paintPixels(Canvas& canvas, std::string_view rows, const PixelRect& pixels, Colour colour) {
-    const auto width = static_cast<std::size_t>(pixels.width());
-    for (int y = pixels.top; y <= pixels.bottom; ++y) {
-        const std::string_view row = rows.substr(0, width);
-        rows.remove_prefix(width);
-        for (std::size_t begin = row.find('#'); begin < width;) {
-            const std::size_t end = std::min(row.find('.', begin), width);
-            canvas.fill({pixels.left + static_cast<int>(begin), y, pixels.left + static_cast<int>(end) - 1, y}, colour);
-            begin = row.find('#', end);
+void paintPixels(Canvas& canvas, std::string_view rows, char mark, const PixelRect& pixels, Colour colour) {
+    const int width = pixels.width();
+    for (int i = 0; i < width * pixels.height(); ++i) {
+        if (rows[static_cast<std::size_t>(i)] == mark) {
+            canvas.fill(PixelSize{1, 1}.at({pixels.left + i % width, pixels.top + i / width}), colour);
         }
     }
 }
@@ -56,7 +52,7 @@ void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour 
 
 void paintSuit(Canvas& canvas, Suit suit, const PixelRect& pixels) {
     if (const std::string_view rows = tinySuit(suit, pixels.size()); !rows.empty()) {
-        paintPixels(canvas, rows, pixels, suitColour(suit));
+        paintPixels(canvas, rows, '#', pixels, suitColour(suit));
     } else {
         const bool isSmall = pixels.width() < smallBelow;
         canvas.fill(isSmall ? smallSuitSymbol(suit, pixels) : suitSymbol(suit, toBox(pixels)), {}, suitColour(suit));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "art/Drawing.h"
 #include "art/Symbols.h"
+#include "platform/Canvas.h"
 
 #include <string_view>
 
@@ -15,8 +15,8 @@ inline constexpr Box wholeCard{{}, cardWidth, cardHeight};
 /// The block of pixels that a box of the drawing's coordinates comes closest to.
 PixelRect fitted(const Drawing& drawing, const Box& box);
 
-/// Paints the pixels that are marked '#' in rows that fill a block.
-void paintPixels(Canvas& canvas, std::string_view rows, const PixelRect& pixels, Colour colour);
+/// Paints those pixels of a block that bear a mark in its rows.
+void paintPixels(Canvas& canvas, std::string_view rows, char mark, const PixelRect& pixels, Colour colour);
 
 /// Paints a letter or digit of the index into a block of pixels.
 void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour);

@@ -5,7 +5,7 @@ namespace tumble {
 Path Outline::path() const {
     Path path;
     for (std::string_view rest = text_; !rest.empty();) {
-        const auto& [name, n] = readCommand(rest);
+        const auto& [name, n] = takeCommand(rest);
         switch (name) {
         case 'M':
             path.moveTo({n[0], n[1]});

@@ -21,7 +21,7 @@ public:
             throw std::invalid_argument("an outline begins nowhere");
         }
         for (std::string_view rest = text_; !rest.empty();) {
-            readCommand(rest);
+            takeCommand(rest);
         }
     }
 
@@ -33,48 +33,39 @@ private:
         std::array<double, 6> numbers;
     };
 
-    /// Reads the command at the beginning of a text and takes it off.
-    static constexpr Command readCommand(std::string_view& text) {
+    /// Takes the first command off.
+    static constexpr Command takeCommand(std::string_view& text) {
+        constexpr std::string_view commands = "ZMLOQC";
+        constexpr std::array<std::size_t, commands.size()> counts{0, 2, 2, 3, 4, 6};
         Command command{text.front(), {}};
-        text.remove_prefix(1);
-        for (std::size_t i = 0; i < numberCount(command.name); ++i) {
-            command.numbers.at(i) = readNumber(text);
+        take(1, text);
+        for (std::size_t i = 0; i < counts.at(commands.find(command.name)); ++i) {
+            command.numbers.at(i) = takeNumber(text);
         }
-        skipSpaces(text);
         return command;
     }
 
-    static constexpr std::size_t numberCount(char command) {
-        constexpr std::string_view commands = "ZMLOQC";
-        constexpr std::array<std::size_t, commands.size()> counts{0, 2, 2, 3, 4, 6};
-        return counts.at(commands.find(command));
-    }
-
     /// A decimal number: its digits as a whole number are exact, and so is the power of ten that divides them.
-    static constexpr double readNumber(std::string_view& text) {
-        skipSpaces(text);
-        const bool isNegative = text.starts_with('-');
-        text.remove_prefix(isNegative ? 1 : 0);
-        double digits = 0;
+    static constexpr double takeNumber(std::string_view& text) {
+        const double sign = text.starts_with('-') ? -1 : 1;
+        text.remove_prefix(sign < 0 ? 1 : 0);
+        const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789."));
+        double whole = 0;
         double divisor = 0;
-        const std::size_t length = std::min(text.find_first_not_of("0123456789."), text.size());
-        for (const char digit : text.substr(0, length)) {
-            if (digit == '.') {
-                divisor = 1;
-            } else {
-                digits = digits * 10 + (digit - '0');
-                divisor *= 10;
-            }
+        for (const char digit : digits) {
+            whole = digit == '.' ? whole : whole * 10 + (digit - '0');
+            divisor = digit == '.' ? 1 : divisor * 10;
         }
-        if (length == 0) {
+        if (digits.empty()) {
             throw std::invalid_argument("an outline lacks a number");
         }
-        text.remove_prefix(length);
-        const double value = divisor > 0 ? digits / divisor : digits;
-        return isNegative ? -value : value;
+        take(digits.size(), text);
+        return sign * (divisor > 0 ? whole / divisor : whole);
     }
 
-    static constexpr void skipSpaces(std::string_view& text) {
+    /// Takes so many characters off, and the spaces after them.
+    static constexpr void take(std::size_t length, std::string_view& text) {
+        text.remove_prefix(length);
         text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     }
 

@@ -12,13 +12,8 @@ namespace tumble {
 
 namespace {
 
-struct PipSize {
-    double width;
-    double height;
-};
-
-constexpr PipSize pipSize{15, 16};
-constexpr PipSize acePipSize{33, 36};
+constexpr Vec2 pipSize{15, 16};
+constexpr Vec2 acePipSize{33, 36};
 
 // The columns and rows of the pips of the upper half and the middle.
 constexpr double left = 22.5;
@@ -60,9 +55,9 @@ int centrable(double length, int whole) {
 }
 
 /// Where a pip lies in pixels. All pips of a card are equally large, and columns and rows even about its middle.
-PixelRect pipPixels(const Drawing& drawing, Vec2 pip, PipSize size) {
+PixelRect pipPixels(const Drawing& drawing, Vec2 pip, Vec2 size) {
     const PixelRect card = fitted(drawing, wholeCard);
-    const Box exact = drawing.toPixels(Box{pip, size.width, size.height});
+    const Box exact = drawing.toPixels(Box{pip, size.x, size.y});
     const PixelSize pixels{centrable(exact.width, card.width()), centrable(exact.height, card.height())};
     const double nearer = std::min(exact.corner.x, card.width() - exact.corner.x);
     const int x = pip.x == middle ? (card.width() - pixels.width) / 2

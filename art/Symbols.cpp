@@ -3,7 +3,6 @@
 #include "art/Outline.h"
 #include "art/TinySuits.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace tumble {
@@ -86,9 +85,12 @@ Path suitSymbol(Suit suit, const Box& box) {
 }
 
 std::string_view tinySuit(Suit suit, PixelSize size) {
-    const auto* const found =
-        std::find_if(tinySuits.begin(), tinySuits.end(), [&](const TinySuits& tiny) { return tiny.size == size; });
-    return found != tinySuits.end() ? found->rows.at(static_cast<std::size_t>(suit)) : std::string_view();
+    for (const auto& [tinySize, rows] : tinySuits) {
+        if (tinySize == size) {
+            return rows.at(static_cast<std::size_t>(suit));
+        }
+    }
+    return {};
 }
 
 Path smallSuitSymbol(Suit suit, const PixelRect& pixels) {

@@ -1,18 +1,11 @@
 #pragma once
 
 #include "art/Ink.h"
-#include "platform/Path.h"
-#include "platform/Pixels.h"
+#include "platform/Canvas.h"
 
 #include <string_view>
 
 namespace tumble {
-
-inline Box toBox(const PixelRect& pixels) {
-    return {{static_cast<double>(pixels.left), static_cast<double>(pixels.top)},
-            static_cast<double>(pixels.width()),
-            static_cast<double>(pixels.height())};
-}
 
 enum class Suit { Clubs, Diamonds, Hearts, Spades };
 inline constexpr int suitCount = 4;

@@ -10,6 +10,12 @@
 
 namespace tumble {
 
+inline Box toBox(const PixelRect& pixels) {
+    return {{static_cast<double>(pixels.left), static_cast<double>(pixels.top)},
+            static_cast<double>(pixels.width()),
+            static_cast<double>(pixels.height())};
+}
+
 /// Of round ones the ends and corners are round; of sharp ones the ends are flat and the corners pointed.
 enum class Nib { Round, Sharp };
 
@@ -46,6 +52,15 @@ public:
     /// Draws a block of an image, which may be this one where the two blocks share no pixel, with its upper left corner
     /// on a pixel.
     virtual void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn = Turn::None) = 0;
+};
+
+/// A canvas, and what takes the coordinates of a drawing to its pixels.
+struct Drawing {
+    Canvas& canvas;
+    Transform toPixels{};
+
+    Drawing moved(Vec2 by) const { return {canvas, toPixels.moved(by)}; }
+    Drawing scaled(double across, double along) const { return {canvas, toPixels.scaled(across, along)}; }
 };
 
 } // namespace tumble

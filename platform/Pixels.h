@@ -50,6 +50,10 @@ struct PixelRect {
                 .right = std::min(right, other.right),
                 .bottom = std::min(bottom, other.bottom)};
     }
+    /// Without so many columns on the right and left, and so many rows above and below.
+    PixelRect inside(int columns, int rows) const {
+        return {.left = left + columns, .top = top + rows, .right = right - columns, .bottom = bottom - rows};
+    }
     /// The smallest block that holds both, of which none is empty.
     PixelRect joined(const PixelRect& other) const {
         return {.left = std::min(left, other.left),

@@ -2,12 +2,14 @@
 
 #include "platform/Replay.h"
 
+#include <utility>
+
 namespace tumble {
 
 /// A painting as a canvas shows it, brought up to date only where it has become another since.
 class ShownPainting {
 public:
-    ShownPainting(const Painting& painting, PictureCache& pictures) : shown_(painting), pictures_(pictures) {}
+    ShownPainting(Painting painting, PictureCache& pictures) : shown_(std::move(painting)), pictures_(pictures) {}
 
     /// Whether the canvas has to be painted afresh: it is another size now, or shows the painting at another scale.
     bool outgrown(PixelSize size, PixelScale scale) const { return size_ != size || factor_ != scale.factor(); }

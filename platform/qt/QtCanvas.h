@@ -20,7 +20,7 @@ class QtCanvas : public Canvas {
 public:
     /// Of at least one pixel each way; with a ground it is opaque, without one transparent.
     QtCanvas(PixelSize size, std::optional<Colour> ground);
-    explicit QtCanvas(const QImage& image) : image_(image) {}
+    explicit QtCanvas(QImage image) : image_(std::move(image)) {}
 
     /// What is painted so far.
     const QImage& image() const;
