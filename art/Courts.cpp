@@ -87,19 +87,7 @@ constexpr double handX = 20;
 // The halves meet along a line through the middle, the origin, under the sash. It falls to the right.
 constexpr double sashHalfWidth = 28;
 constexpr double sashFall = 6;
-constexpr double sashHalfHeight = 2.4;
-
-void paintSash(const Drawing& drawing, const Fabric& fabric) {
-    constexpr Vec2 fall{sashHalfWidth, sashFall};
-    constexpr Vec2 half{0, sashHalfHeight};
-    Path sash;
-    sash.moveTo(-fall - half);
-    sash.lineTo(fall - half);
-    sash.lineTo(fall + half);
-    sash.lineTo(-fall + half);
-    sash.close();
-    paintFabric(drawing, sash, fabric);
-}
+constexpr Outline sash = "M-28 -8.4 L28 3.6 L28 8.4 L-28 -3.6 Z";
 
 void paintFigure(Drawing drawing, const Body& body, const Costume& costume, const Regalia& worn) {
     const Wardrobe wardrobe = dressed(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
@@ -112,7 +100,7 @@ void paintFigure(Drawing drawing, const Body& body, const Costume& costume, cons
     paintPieces(drawing, face, wardrobe);
     paintPieces(drawing, body.forelocks, wardrobe);
     paintPieces(drawing, worn.headgear, wardrobe);
-    paintSash(drawing, costume.sash);
+    paintFabric(drawing, outline(sash), costume.sash);
 }
 
 } // namespace
