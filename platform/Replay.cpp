@@ -14,7 +14,16 @@ struct Shown {
     const PaintItem* item;
     PixelRect place;
     PixelRect visible;
+    bool opaque;
 };
+
+/// The pixels that a circle may touch.
+PixelRect reach(const CircleOperation& circle, PixelScale scale) {
+    const Point least{circle.centre.x - circle.radius, circle.centre.y - circle.radius};
+    const Point most{circle.centre.x + circle.radius, circle.centre.y + circle.radius};
+    const int pen = scale.pen();
+    return scale.pixels({least.x, least.y, most.x, most.y}).inside(-pen, -pen);
+}
 
 /// Paints the operations of one item, as far as they are visible.
 struct ItemPainter {
@@ -45,12 +54,15 @@ struct ItemPainter {
         }
     }
 
-    // Also where it is hidden: what hides it is painted over it.
     void operator()(const CircleOperation& circle) const {
+        const PixelRect touched = reach(circle, scale).intersected(shown.visible);
+        if (touched.empty()) {
+            return;
+        }
         Path path;
         path.addCircle({scale.pixel(circle.centre.x) + 0.5, scale.pixel(circle.centre.y) + 0.5},
                        scale.factor() * static_cast<double>(circle.radius) / static_cast<double>(twipsPerPixel));
-        canvas.clip(shown.place);
+        canvas.clip(touched);
         canvas.stroke(path, {}, {circle.colour, static_cast<double>(scale.pen())});
         canvas.clip(canvas.bounds());
     }
@@ -67,23 +79,37 @@ void paint(Canvas& canvas, const Shown& shown, PixelScale scale, PictureCache& p
     }
 }
 
-bool hasCircle(const PaintItem& item) {
-    return std::any_of(item.operations.begin(), item.operations.end(),
-                       [](const Operation& operation) { return std::holds_alternative<CircleOperation>(operation); });
-}
-
-/// The part, grown until it holds every item with a circle that it meets.
-PixelRect withWholeCircles(PixelRect part, const std::vector<PaintItem>& items, PixelScale scale) {
-    std::vector<PixelRect> apart;
-    for (const PaintItem& item : items) {
-        if (hasCircle(item)) {
-            apart.push_back(scale.pixels(item.place));
+/// What later items leave to see of a block of an item.
+PixelRect leftBy(const std::vector<Shown>& items, std::size_t position, PixelRect block) {
+    for (std::size_t later = items.size() - 1; later > position && !block.empty(); --later) {
+        if (items[later].opaque) {
+            block = block.without(items[later].place);
         }
     }
-    const auto meetsPart = [&](const PixelRect& place) { return !place.intersected(part).empty(); };
-    for (auto met = apart.begin(); (met = std::find_if(apart.begin(), apart.end(), meetsPart)) != apart.end();) {
-        part = part.joined(*met);
-        apart.erase(met);
+    return block;
+}
+
+/// The part, grown until it cuts no circle.
+PixelRect withWholeCircles(PixelRect part, const std::vector<Shown>& items, PixelScale scale) {
+    for (bool grown = true; grown;) {
+        grown = false;
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const PixelRect place = items[i].place.intersected(part);
+            if (place.empty() || part.contains(items[i].place)) {
+                continue;
+            }
+            for (const Operation& operation : items[i].item->operations) {
+                const auto* circle = std::get_if<CircleOperation>(&operation);
+                if (circle == nullptr || reach(*circle, scale).intersected(place).empty()) {
+                    continue;
+                }
+                const PixelRect shown = leftBy(items, i, reach(*circle, scale).intersected(items[i].place));
+                if (!shown.intersected(part).empty() && !part.contains(shown)) {
+                    part = part.joined(shown);
+                    grown = true;
+                }
+            }
+        }
     }
     return part;
 }
@@ -93,9 +119,12 @@ PixelRect withWholeCircles(PixelRect part, const std::vector<PaintItem>& items, 
 // Looked through from the top, so that what later items hide is not painted at all: of a row of cards all but the last
 // show a narrow strip.
 PixelRect replay(Canvas& canvas, const Painting& painting, PixelScale scale, PixelRect part, PictureCache& pictures) {
-    const auto& items = painting.items();
+    std::vector<Shown> items;
+    items.reserve(painting.items().size());
+    for (const PaintItem& item : painting.items()) {
+        items.push_back({&item, scale.pixels(item.place), {}, item.opaque()});
+    }
     part = withWholeCircles(part, items, scale).intersected(canvas.bounds());
-    std::vector<Shown> topDown;
     std::vector<PixelRect> covers;
     const auto visiblePart = [&](const PixelRect& place) {
         PixelRect visible = place.intersected(part);
@@ -104,23 +133,24 @@ PixelRect replay(Canvas& canvas, const Painting& painting, PixelScale scale, Pix
         }
         return visible;
     };
-    std::for_each(items.rbegin(), items.rend(), [&](const PaintItem& item) {
-        const PixelRect place = scale.pixels(item.place);
-        if (const PixelRect visible = visiblePart(place); !visible.empty()) {
-            topDown.push_back({&item, place, visible});
-            if (item.opaque()) {
-                covers.push_back(place);
-            }
+    std::for_each(items.rbegin(), items.rend(), [&](Shown& shown) {
+        shown.visible = visiblePart(shown.place);
+        if (!shown.visible.empty() && shown.opaque) {
+            covers.push_back(shown.place);
         }
     });
     canvas.fill(visiblePart(part), painting.ground());
-    std::for_each(topDown.rbegin(), topDown.rend(), [&](const Shown& shown) { paint(canvas, shown, scale, pictures); });
+    for (const Shown& shown : items) {
+        if (!shown.visible.empty()) {
+            paint(canvas, shown, scale, pictures);
+        }
+    }
     return part;
 }
 
 void paint(Canvas& canvas, const PaintItem& item, PixelScale scale, PictureCache& pictures) {
     const PixelRect place = scale.pixels(item.place);
-    paint(canvas, {&item, place, place}, scale, pictures);
+    paint(canvas, {&item, place, place, false}, scale, pictures);
 }
 
 void paint(Canvas& canvas, const Picture& picture, const PixelRect& box, const PixelRect& part,

@@ -161,21 +161,25 @@ TEST(PixelScaleTest, SlantingLinesAreWholeFromEndToEndAndMirrored) {
 }
 
 // Cut at the edge of a part, a smoothed line would not join what shows of it outside.
-TEST(ReplayTest, ACircleIsRepaintedWhole) {
+TEST(ReplayTest, ACircleThatShowsIsRepaintedWhole) {
     Painting painting(3000, 2000, tableGreen);
-    const auto marked = [](const Rect& place) {
-        return PaintItem{place, {FillOperation{place, blue}, CircleOperation{{place.left, place.top}, 50, red}}};
+    const auto marked = [](float X) {
+        const Rect place{X, 150, X + 299, 449};
+        return PaintItem{place, {FillOperation{place, blue}, CircleOperation{{X + 150, 300}, 60, red}}};
     };
-    painting.add(marked({150, 150, 449, 449}));
-    painting.add(marked({450, 150, 749, 449}));
-    painting.add(marked({1500, 150, 1799, 449}));
+    painting.add(marked(150));
+    painting.add(marked(450));
+    painting.add(fill({450, 150, 659, 449}, red)); // which hides all of the second circle but its end
     PictureCache pictures({});
     Raster canvas({200, 133}, 0);
-    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {29, 5, 29, 10}, pictures), (PixelRect{10, 5, 29, 29}));
-    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {29, 5, 30, 10}, pictures), (PixelRect{10, 5, 49, 29}));
-    EXPECT_EQ(canvas.at({20, 20}), blue);
-    EXPECT_EQ(canvas.at({50, 20}), 0);
-    EXPECT_EQ(replay(canvas, painting, PixelScale(1), {0, 0, 5, 200}, pictures), (PixelRect{0, 0, 5, 132}));
+    const std::vector<std::pair<PixelRect, PixelRect>> cases{{{10, 10, 14, 29}, {10, 10, 14, 29}},
+                                                             {{10, 10, 20, 29}, {10, 10, 25, 29}},
+                                                             {{10, 18, 40, 19}, {10, 15, 40, 25}},
+                                                             {{44, 18, 44, 19}, {44, 15, 45, 25}},
+                                                             {{0, 0, 5, 200}, {0, 0, 5, 132}}};
+    for (const auto& [part, repainted] : cases) {
+        EXPECT_EQ(replay(canvas, painting, PixelScale(1), part, pictures), repainted);
+    }
 }
 
 TEST(RectTest, SidesOfABoxLieInsideItAndACoverLeavesTheRest) {

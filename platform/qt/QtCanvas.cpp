@@ -81,14 +81,20 @@ QPainter& QtCanvas::exact() {
     if (!painter_.isActive()) {
         painter_.begin(&image_);
         applyClip();
+        isSmooth_ = false;
     }
-    painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.resetTransform();
+    if (isSmooth_) {
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+        painter_.resetTransform();
+        isSmooth_ = false;
+    }
     return painter_;
 }
 
-QPainter& QtCanvas::smooth() {
+QPainter& QtCanvas::smooth(const Transform& toPixels) {
     exact().setRenderHint(QPainter::Antialiasing);
+    painter_.setTransform(toQTransform(toPixels));
+    isSmooth_ = true;
     return painter_;
 }
 
@@ -105,27 +111,20 @@ void QtCanvas::fill(const PixelRect& block, Colour colour) {
 }
 
 void QtCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
-    QPainter& painter = smooth();
-    painter.setTransform(toQTransform(toPixels));
-    painter.fillPath(toQPath(path), toQColor(colour));
+    smooth(toPixels).fillPath(toQPath(path), toQColor(colour));
 }
 
 void QtCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
     QBrush brush(dynamic_cast<const QtCanvas&>(texture).image());
-    const QTransform transform = toQTransform(toPixels);
-    brush.setTransform(QTransform::fromTranslate(corner.x, corner.y) * transform.inverted());
-    QPainter& painter = smooth();
-    painter.setTransform(transform);
-    painter.fillPath(toQPath(path), brush);
+    brush.setTransform(QTransform::fromTranslate(corner.x, corner.y) * toQTransform(toPixels).inverted());
+    smooth(toPixels).fillPath(toQPath(path), brush);
 }
 
 void QtCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
     const bool isRound = pen.nib == Nib::Round;
-    QPainter& painter = smooth();
-    painter.setTransform(toQTransform(toPixels));
-    painter.strokePath(toQPath(path),
-                       QPen(toQColor(pen.colour), pen.width, Qt::SolidLine, isRound ? Qt::RoundCap : Qt::FlatCap,
-                            isRound ? Qt::RoundJoin : Qt::MiterJoin));
+    smooth(toPixels).strokePath(toQPath(path),
+                                QPen(toQColor(pen.colour), pen.width, Qt::SolidLine,
+                                     isRound ? Qt::RoundCap : Qt::FlatCap, isRound ? Qt::RoundJoin : Qt::MiterJoin));
 }
 
 void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {

@@ -37,10 +37,11 @@ public:
 private:
     void applyClip() const;
     QPainter& exact();
-    QPainter& smooth();
+    QPainter& smooth(const Transform& toPixels);
 
     QImage image_;
     std::optional<QRect> clip_;
+    bool isSmooth_ = false;    // the painter, and in a path's coordinates
     mutable QPainter painter_; // at work until the image is looked at
 };
 
