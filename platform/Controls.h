@@ -92,6 +92,9 @@ public:
     PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
                Colour backColor);
 
+    /// Whether it hears of anything; only then it takes keys and fingers too.
+    bool listens() const { return MouseDown != nullptr; }
+
     MouseEvent MouseDown;
     MouseEvent MouseMove;
     MouseEvent MouseUp;

@@ -1,18 +1,12 @@
 #pragma once
 
 #include "platform/Painting.h"
+#include "platform/Ring.h"
 
 #include <optional>
 #include <vector>
 
 namespace tumble {
-
-/// The mark of the keyboard's pointer: where it lies, in twips of the surface, and whether the pointer holds a button.
-struct Ring {
-    Point at;
-    bool holds = false;
-    friend bool operator==(const Ring&, const Ring&) = default;
-};
 
 /// Where the keyboard's pointer stops: of each opaque item that is no erasure, the middle of the largest rectangle that
 /// it leaves to see within `part`. Whole twips, in the order of the painting; no two are equal, as each lies on another

@@ -3,9 +3,14 @@
 #include "platform/qt/Contrast.h"
 
 #include <QFocusFrame>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyleHints>
+#include <QTimerEvent>
+#include <QTouchEvent>
 #include <QWindow>
 
 #include <cmath>
@@ -59,6 +64,37 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
     return static_cast<std::int16_t>(shift + control + alt);
 }
 
+std::optional<PointerKey> pointerKeyOf(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+        return PointerKey::Left;
+    case Qt::Key_Up:
+        return PointerKey::Up;
+    case Qt::Key_Right:
+        return PointerKey::Right;
+    case Qt::Key_Down:
+        return PointerKey::Down;
+    case Qt::Key_Home:
+        return PointerKey::Home;
+    case Qt::Key_PageUp:
+        return PointerKey::PageUp;
+    case Qt::Key_End:
+        return PointerKey::End;
+    case Qt::Key_PageDown:
+        return PointerKey::PageDown;
+    case Qt::Key_Space:
+        return PointerKey::Space;
+    case Qt::Key_F:
+        return PointerKey::F;
+    case Qt::Key_Menu:
+        return PointerKey::Menu;
+    case Qt::Key_F10:
+        return PointerKey::F10;
+    default:
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 double pixelRatio(const QWidget& widget) {
@@ -69,8 +105,9 @@ double pixelRatio(const QWidget& widget) {
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
     : QWidget(parent), box_(&box), hand_(box), shown_(box.painting(), pictures), focusRing_(new FocusRing(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMouseTracking(box.MouseMove != nullptr);
-    setFocusPolicy(Qt::TabFocus);
+    setMouseTracking(box.listens());
+    setAttribute(Qt::WA_AcceptTouchEvents, box.listens());
+    setFocusPolicy(box.listens() ? Qt::StrongFocus : Qt::TabFocus);
     focusRing_->hide();
 }
 
@@ -142,24 +179,106 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
         const QRect whole = pixels.toAlignedRect() & image.rect();
         painter.drawImage(whole, image, whole);
     }
+    if (ring_) {
+        const PixelRect block = ringPixels(*ring_, pixelScale());
+        QtCanvas mark(block.size(), std::nullopt);
+        paintRing(mark, ring_->holds);
+        painter.drawImage(block.left, block.top, mark.image());
+    }
+}
+
+// Only where it was and where it comes to is painted again.
+void SurfaceWidget::showRing() {
+    const std::optional<Ring> before = std::exchange(ring_, hasFocus() ? pointer_.ring() : std::nullopt);
+    if (ring_ != before) {
+        for (const std::optional<Ring>& ring : {before, ring_}) {
+            update(ring ? logicalRect(ringPixels(*ring, pixelScale())) : QRect());
+        }
+    }
+}
+
+void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
+    const auto key = pointerKeyOf(event->key());
+    const auto with = [event](Qt::KeyboardModifier held) { return event->modifiers().testFlag(held); };
+    event->setAccepted(key && box_ != nullptr && box_->listens() &&
+                       pointer_.key({.key = *key,
+                                     .shift = with(Qt::ShiftModifier),
+                                     .control = with(Qt::ControlModifier),
+                                     .alt = with(Qt::AltModifier),
+                                     .meta = with(Qt::MetaModifier),
+                                     .repeated = event->isAutoRepeat()}));
+    showRing();
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
-    hand_.press(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
+    pointer_.press(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
+    showRing();
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    hand_.move(heldButtons(event->buttons()), shiftKeys(event->modifiers()), place(*event));
+    pointer_.move(heldButtons(event->buttons()), shiftKeys(event->modifiers()), place(*event));
+    showRing();
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
-    hand_.release(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
+    pointer_.release(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
+    showRing();
+}
+
+Point SurfaceWidget::twips(QPointF inWidget) const {
+    const QPointF pixel = inWidget * pixelRatio(*this);
+    return {pixelScale().twips(pixel.x()), pixelScale().twips(pixel.y())};
 }
 
 // From the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
 Point SurfaceWidget::place(const QMouseEvent& event) const {
-    const QPointF pixel = (event.scenePosition() - mapTo(window(), QPoint())) * pixelRatio(*this);
-    return {pixelScale().twips(pixel.x()), pixelScale().twips(pixel.y())};
+    return twips(event.scenePosition() - mapTo(window(), QPoint()));
+}
+
+// A touch that is taken comes as no mouse event.
+bool SurfaceWidget::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+        event->accept();
+        touch(static_cast<QTouchEvent&>(*event));
+        break;
+    case QEvent::TouchCancel:
+        finger_.cancel();
+        break;
+    default:
+        return QWidget::event(event);
+    }
+    if (!finger_.waits()) {
+        longPress_.stop();
+    } else if (!longPress_.isActive()) {
+        longPress_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
+    }
+    showRing();
+    return true;
+}
+
+void SurfaceWidget::touch(const QTouchEvent& event) {
+    const double startDrag = QGuiApplication::styleHints()->startDragDistance();
+    for (const QEventPoint& point : event.points()) {
+        const Point at = twips(point.position());
+        if (point.state() == QEventPoint::Pressed) {
+            finger_.touch(point.id(), at, twips({startDrag, 0}).x);
+        } else if (point.state() == QEventPoint::Updated) {
+            finger_.move(point.id(), at);
+        } else if (point.state() == QEventPoint::Released) {
+            finger_.lift(point.id(), at);
+        }
+    }
+}
+
+void SurfaceWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == longPress_.timerId()) {
+        longPress_.stop();
+        finger_.longPress();
+        showRing();
+    }
 }
 
 // The toolkit forgets where a button went down when another window comes to block this one.
@@ -205,7 +324,12 @@ void SurfaceWidget::hideEvent(QHideEvent* /*event*/) {
 void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
     if (std::exchange(hidden_, false)) {
         QMetaObject::invokeMethod(
-            this, [this] { hand_.letGo(); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                hand_.letGo();
+                showRing();
+            },
+            Qt::QueuedConnection);
     }
 }
 
@@ -221,6 +345,7 @@ void SurfaceWidget::focusInEvent(QFocusEvent* event) {
     placeFocusRing();
     focusRing_->setVisible(byKeyboard);
     focusRing_->stackUnder(this);
+    showRing();
 }
 
 void SurfaceWidget::placeFocusRing() {
@@ -229,6 +354,7 @@ void SurfaceWidget::placeFocusRing() {
 
 void SurfaceWidget::focusOutEvent(QFocusEvent* /*event*/) {
     focusRing_->hide();
+    showRing();
 }
 
 } // namespace tumble

@@ -1,19 +1,23 @@
 #pragma once
 
-#include "platform/Hand.h"
+#include "platform/Finger.h"
 #include "platform/ShownPainting.h"
 #include "platform/qt/QtCanvas.h"
 
+#include <QBasicTimer>
 #include <QWidget>
 
 #include <optional>
+
+class QTouchEvent;
 
 namespace tumble {
 
 /// Device pixels for each logical pixel; at least 1, whatever the toolkit says.
 double pixelRatio(const QWidget& widget);
 
-/// Shows a picture box's painting, in the exact pixels of the screen, and reports the mouse to it.
+/// Shows a picture box's painting, in the exact pixels of the screen, and reports to it what mouse, keys and fingers
+/// do.
 class SurfaceWidget : public QWidget {
 public:
     SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent);
@@ -34,7 +38,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -51,10 +58,17 @@ private:
     PixelRect bringUpToDate();
     QRect logicalRect(const PixelRect& pixels) const;
     void placeFocusRing();
+    Point twips(QPointF inWidget) const;
     Point place(const QMouseEvent& event) const;
+    void touch(const QTouchEvent& event);
+    void showRing();
 
     PictureBox* box_; // null once retired
     Hand hand_;
+    KeyboardPointer pointer_{hand_};
+    Finger finger_{pointer_};
+    QBasicTimer longPress_;
+    std::optional<Ring> ring_; // as it shows
     ShownPainting shown_;
     std::optional<QtCanvas> canvas_; // in device pixels, once it has been painted
     double scale_ = 1;
