@@ -12,13 +12,13 @@ enum class Key { Enter, Esc, F1, F11 };
 /// come up meanwhile. A repetition is a release and a press at the same instant, which not every toolkit sees.
 class HeldKeys {
 public:
-    // Times in milliseconds; 0 is none, as of keys that a screen reader passes on.
-    void released(Key key, std::uint64_t time) { released_[key] = time; }
+    // Keys by the toolkit's numbers. Times in milliseconds; 0 is none, as of keys that a screen reader passes on.
+    void released(int key, std::uint64_t time) { released_[key] = time; }
     /// `marked`: the toolkit takes the press for a repetition.
-    bool repeats(Key key, std::uint64_t time, bool marked) const;
+    bool repeats(int key, std::uint64_t time, bool marked) const;
 
 private:
-    std::map<Key, std::uint64_t> released_; // last
+    std::map<int, std::uint64_t> released_; // last
 };
 
 } // namespace tumble

@@ -124,15 +124,17 @@ TEST_F(CaptionsTest, ThatAreAlikeInOneContainerHaveOneSize) {
 }
 
 TEST(KeysTest, AHeldKeyActsOnce) {
+    constexpr int space = 32;
+    constexpr int other = 33;
     HeldKeys held;
-    EXPECT_FALSE(held.repeats(Key::Enter, 10, false));
-    EXPECT_TRUE(held.repeats(Key::Enter, 20, true));
-    held.released(Key::Enter, 30);
-    EXPECT_TRUE(held.repeats(Key::Enter, 30, false));
-    EXPECT_FALSE(held.repeats(Key::Esc, 30, false));
-    EXPECT_FALSE(held.repeats(Key::Enter, 31, false));
-    held.released(Key::Enter, 0); // while a screen reader listens
-    EXPECT_FALSE(held.repeats(Key::Enter, 0, false));
+    EXPECT_FALSE(held.repeats(space, 10, false));
+    EXPECT_TRUE(held.repeats(space, 20, true));
+    held.released(space, 30);
+    EXPECT_TRUE(held.repeats(space, 30, false));
+    EXPECT_FALSE(held.repeats(other, 30, false));
+    EXPECT_FALSE(held.repeats(space, 31, false));
+    held.released(space, 0); // while a screen reader listens
+    EXPECT_FALSE(held.repeats(space, 0, false));
 }
 
 TEST(KeysTest, PressTheButtonOfTheFormThatHasThem) {

@@ -20,17 +20,36 @@ std::optional<Key> keyOf(const QKeyEvent& event) {
     }
 }
 
+namespace {
+
+/// Whether a key does the same again when the keyboard repeats it. The others act once, however long they are held.
+bool repeatable(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Space:
+    case Qt::Key_F:
+    case Qt::Key_Menu:
+    case Qt::Key_F10:
+        return false;
+    default:
+        return !keyOf(event);
+    }
+}
+
+} // namespace
+
 bool KeyFilter::eventFilter(QObject* object, QEvent* event) {
     const bool press = event->type() == QEvent::KeyPress;
     if (!object->isWindowType() || (!press && event->type() != QEvent::KeyRelease)) {
         return false;
     }
     const auto& keyEvent = static_cast<const QKeyEvent&>(*event);
-    const std::optional<Key> key = keyOf(keyEvent);
-    if (key && !press) {
-        held_.released(*key, keyEvent.timestamp());
+    if (repeatable(keyEvent)) {
+        return false;
     }
-    return key && press && held_.repeats(*key, keyEvent.timestamp(), keyEvent.isAutoRepeat());
+    if (!press) {
+        held_.released(keyEvent.key(), keyEvent.timestamp());
+    }
+    return press && held_.repeats(keyEvent.key(), keyEvent.timestamp(), keyEvent.isAutoRepeat());
 }
 
 } // namespace tumble

@@ -12,7 +12,7 @@ namespace tumble {
 
 std::optional<Key> keyOf(const QKeyEvent& event);
 
-/// An event filter of the application: what the keyboard repeats goes nowhere.
+/// An event filter of the application: of a key that acts once, what the keyboard repeats goes nowhere.
 class KeyFilter : public QObject {
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
