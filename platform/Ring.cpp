@@ -23,10 +23,10 @@ PixelRect ringPixels(const Ring& ring, PixelScale scale) {
     return PixelSize{side, side}.at({scale.pixel(ring.at.x) - side / 2, scale.pixel(ring.at.y) - side / 2});
 }
 
-void paintRing(Canvas& canvas, bool holds) {
+void paintRing(Canvas& canvas, bool holds, PixelScale scale) {
     const double middle = canvas.size().width / 2.0;
-    const double unit = middle / (reach + 0.5);
-    const Transform toPixels = Transform::scaling(unit, unit).moved({middle / unit, middle / unit});
+    const double unit = scale.factor();
+    const Transform toPixels{{unit, 0}, {0, unit}, {middle, middle}};
     Path circle;
     circle.addCircle({}, radius);
     if (holds) {

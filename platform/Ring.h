@@ -17,6 +17,6 @@ PixelRect ringPixels(const Ring& ring, PixelScale scale);
 
 /// Paints it on a transparent canvas of their size: a light line between dark ones, to be seen on every ground; while
 /// it holds, a dark disc with a light dot in it.
-void paintRing(Canvas& canvas, bool holds);
+void paintRing(Canvas& canvas, bool holds, PixelScale scale);
 
 } // namespace tumble

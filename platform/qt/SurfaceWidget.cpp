@@ -182,7 +182,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     if (ring_) {
         const PixelRect block = ringPixels(*ring_, pixelScale());
         QtCanvas mark(block.size(), std::nullopt);
-        paintRing(mark, ring_->holds);
+        paintRing(mark, ring_->holds, pixelScale());
         painter.drawImage(block.left, block.top, mark.image());
     }
 }

@@ -187,18 +187,6 @@ TEST_F(Windows, AResizeKeepsWhatIsGoingOn) {
     EXPECT_NEAR(surface->geometry().center().y(), 16000, 20) << "in the middle";
 }
 
-TEST_F(Windows, AFingerDragsACardAsTheMouseDoes) {
-    QWidget* table = openTable();
-    const QPoint origin = control("Tumble", "picTable")->mapTo(table, QPoint(0, 0));
-    static const QPointingDevice* screen = QTest::createTouchDevice();
-    auto finger = QTest::touchEvent(table->windowHandle(), const_cast<QPointingDevice*>(screen));
-    finger.press(0, origin + QPoint(90, 76)).commit();
-    finger.move(0, origin + QPoint(60, 50)).commit();
-    finger.move(0, origin + QPoint(12, 16)).commit();
-    finger.release(0, origin + QPoint(12, 16)).commit();
-    EXPECT_EQ(mainMod.pileTopLeft->numCards(), 1);
-}
-
 TEST_F(Windows, TheFocusAndTheDefaultButtonShowInEveryStyle) {
     const QString usual = QApplication::style()->name();
     for (const QString& style : QStyleFactory::keys()) {

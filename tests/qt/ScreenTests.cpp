@@ -56,21 +56,6 @@ QByteArray screensFile() {
 
 namespace {
 
-/// Does what opens a modal window, looks at it, and closes it by a key.
-void inModal(const std::function<void()>& open, Qt::Key key, const std::function<void(QWidget*)>& look) {
-    QPointer<QWidget> before = QApplication::activeWindow();
-    QTimer::singleShot(0, qApp, [&] {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() != before; }));
-        QWidget* opened = QApplication::activeWindow();
-        EXPECT_TRUE(opened->isModal());
-        look(opened);
-        QTest::keyClick(opened, key);
-        before = nullptr;
-    });
-    open();
-    EXPECT_EQ(before, nullptr) << "it did not wait";
-}
-
 /// The window lies with its frame inside the screen, in the middle of a place, and bears the game's icon.
 void expectInMiddle(const QWidget* window, const QRect& place) {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
@@ -249,7 +234,8 @@ TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
                 table->close();
             });
     EXPECT_TRUE(table->isVisible());
-    mainMod.table().cmdExit.Click();
+    QTimer::singleShot(0, qApp, [&] { mainMod.table().cmdExit.Click(); });
+    desktop.run(); // which the exit ends, and no loop of a later test
     EXPECT_FALSE(table->isVisible());
 }
 

@@ -5,12 +5,15 @@
 #include "platform/qt/QtDesktop.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace tumble {
@@ -30,6 +33,21 @@ QByteArray screensFile();
 
 inline double scaleOf(const QWidget* window) {
     return dynamic_cast<const FormWindow*>(window)->scale();
+}
+
+/// Does what opens a modal window, looks at it, and closes it by a key.
+inline void inModal(const std::function<void()>& open, Qt::Key key, const std::function<void(QWidget*)>& look) {
+    QPointer<QWidget> before = QApplication::activeWindow();
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() != before; }));
+        QWidget* opened = QApplication::activeWindow();
+        EXPECT_TRUE(opened->isModal());
+        look(opened);
+        QTest::keyClick(opened, key);
+        before = nullptr;
+    });
+    open();
+    EXPECT_EQ(before, nullptr) << "it did not wait";
 }
 
 /// The game on the real desktop, driven through its windows.
