@@ -24,6 +24,8 @@ DECKS = {
     "Big Pinochle": "Two 32-card decks",
     "Standard": "Standard 52-card deck",
 }
+RANKS = ["Two", "Three", "Four", "Five", "Six", "Seven", "Eight", "Nine", "Ten", "Jack", "Queen", "King", "Ace"]
+CORNER_KEYS = {"Diamonds": "Home", "Clubs": "Prior", "Hearts": "End", "Spades": "Next"}
 
 
 class WindowTest(unittest.TestCase):
@@ -148,6 +150,38 @@ class WindowTest(unittest.TestCase):
                 "You must play either a Two of Diamonds or a Three of Diamonds or a Joker", "alt+F4")
         for card in range(1, 52):
             game.to_corner(card, places[card])
+        self.assert_told(game, "CONGRATULATIONS!", "Return", "YOU WIN")
+        game.in_front("Tumble")
+        self.leave(game)
+
+    def test_default_game_is_won_by_keys_and_ear(self):
+        heard = self.screen.listen()
+        game = self.start_table()
+        playable = {f"Two of {suit}" for suit in CORNER_KEYS}
+
+        def hear(*keys):
+            known = len(heard())
+            self.screen.xdotool("key", *keys)
+            wait(f"a word after {keys}", lambda: len(heard()) > known)
+            return heard()[-1]
+
+        wait("the table", lambda: heard()[-1:] == ["Table"])
+        hear("Home")  # only shows the pointer, in the middle
+        word = hear("Home")
+        while playable:
+            arrow = "Left"
+            while word not in playable:  # along the spread, and back from the corner at its end
+                if word.startswith("Pile"):
+                    arrow = "Left" if arrow == "Right" else "Right"
+                word = hear(arrow)
+            playable.remove(word)
+            rank, _, suit = word.partition(" of ")
+            if rank != "Ace":
+                playable.add(f"{RANKS[RANKS.index(rank) + 1]} of {suit}")
+            laid = hear("space", CORNER_KEYS[suit], "space")
+            if playable:
+                self.assertEqual(laid, f"Pile ({word})")
+                word = laid if suit == "Diamonds" else hear("Home")
         self.assert_told(game, "CONGRATULATIONS!", "Return", "YOU WIN")
         game.in_front("Tumble")
         self.leave(game)
