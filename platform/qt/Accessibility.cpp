@@ -1,5 +1,6 @@
 #include "platform/qt/Accessibility.h"
 
+#include "platform/Pinned.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/SurfaceWidget.h"
 
@@ -38,13 +39,9 @@ private:
     QAccessibleInterface& surface_;
 };
 
-class AccessibleSurface : public QAccessibleWidget {
+class AccessibleSurface : public QAccessibleWidget, Pinned {
 public:
     explicit AccessibleSurface(SurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Graphic) {}
-    AccessibleSurface(const AccessibleSurface&) = delete;
-    AccessibleSurface& operator=(const AccessibleSurface&) = delete;
-    AccessibleSurface(AccessibleSurface&&) = delete;
-    AccessibleSurface& operator=(AccessibleSurface&&) = delete;
     ~AccessibleSurface() override { forget(); }
 
     /// By a new item: of one that had the focus before, readers say nothing.
