@@ -72,6 +72,11 @@ TEST_F(Windows, TheDialogIsPlayedByKeys) {
     QTest::keyClick(control("Tumble Options", "optDeckPinochle"), Qt::Key_Space);
     EXPECT_EQ(mainMod.options().lblDeckDescription.Caption(), "Two 24-card decks");
     EXPECT_FALSE(mainMod.options().optDeckStandard.Value());
+    QWidget* preview = control("Tumble Options", "pctCardSize");
+    preview->setFocus();
+    const QImage before = picture(preview);
+    QTest::keyClick(preview, Qt::Key_Home);
+    EXPECT_EQ(picture(preview), before) << "no pointer where nothing hears of it";
     QTest::keyClick(dialog, Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([] { return window("Tumble") != nullptr; }));
 }
