@@ -92,7 +92,7 @@ public:
     PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
                Colour backColor);
 
-    /// Whether it hears of anything; only then it takes keys and fingers too.
+    /// Whether it hears of anything; only then do keys and fingers act on it.
     bool listens() const { return MouseDown != nullptr; }
 
     MouseEvent MouseDown;

@@ -239,6 +239,8 @@ Point SurfaceWidget::place(const QMouseEvent& event) const {
 bool SurfaceWidget::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::TouchBegin:
+        finger_.cancel(); // of whose lift the toolkit may not have told
+        [[fallthrough]];
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
         event->accept();
