@@ -3,6 +3,7 @@
 #include "platform/Desktop.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace tumble {
@@ -23,6 +24,13 @@ bool Control::takesInput() const {
 
 void Control::changed() {
     desktop().changed(*this);
+}
+
+PlainCaption::PlainCaption(const std::string& caption) : text(caption) {
+    if (const auto mark = text.find('&'); mark != std::string::npos) {
+        text.erase(mark, 1);
+        accessKey = static_cast<char>(std::toupper(static_cast<unsigned char>(text[mark])));
+    }
 }
 
 PictureBox::PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,

@@ -83,6 +83,14 @@ private:
     int tabIndex_;
 };
 
+/// A caption without the ampersand, and the letter that it marks, a capital; 0 when it marks none.
+struct PlainCaption {
+    explicit PlainCaption(const std::string& caption);
+
+    std::string text;
+    char accessKey = 0;
+};
+
 /// A drawing surface that hears of the mouse from a `Hand`: button 1 left, 2 right, 4 middle (for a move, the sum of
 /// those held); shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips.
 class PictureBox : public Control, public DrawingSurface {

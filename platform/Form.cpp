@@ -9,19 +9,30 @@ namespace tumble {
 
 namespace {
 
-const CommandButton* buttonPressedBy(Key key, const Container& container) {
+template<class Condition>
+const CommandButton* buttonThat(const Condition& condition, const Container& container) {
     for (const AnyControl& control : container.controls()) {
         const CommandButton* found = nullptr;
         if (auto* const* button = std::get_if<CommandButton*>(&control)) {
-            found = (*button)->pressedBy(key) ? *button : nullptr;
+            found = condition(**button) ? *button : nullptr;
         } else if (auto* const* frame = std::get_if<Frame*>(&control)) {
-            found = buttonPressedBy(key, **frame);
+            found = buttonThat(condition, **frame);
         }
         if (found != nullptr) {
             return found;
         }
     }
     return nullptr;
+}
+
+/// Whether there is one to press.
+template<class Condition>
+bool pressButtonThat(const Condition& condition, const Container& container) {
+    const CommandButton* button = buttonThat(condition, container);
+    if (button != nullptr) {
+        button->Click();
+    }
+    return button != nullptr;
 }
 
 } // namespace
@@ -62,9 +73,12 @@ void Form::MousePointer(Pointer pointer) {
 }
 
 void Form::press(Key key) const {
-    if (const CommandButton* button = buttonPressedBy(key, *this)) {
-        button->Click();
-    }
+    pressButtonThat([key](const CommandButton& button) { return button.pressedBy(key); }, *this);
+}
+
+bool Form::pressAccessKey(char letter) const {
+    return pressButtonThat(
+        [letter](const CommandButton& button) { return PlainCaption(button.Caption()).accessKey == letter; }, *this);
 }
 
 } // namespace tumble

@@ -40,6 +40,8 @@ public:
 
     /// Presses the button that the key stands for, if there is one.
     void press(Key key) const;
+    /// Presses the button whose caption marks the letter, a capital, as its access key; false if there is none.
+    bool pressAccessKey(char letter) const;
 
     /// Runs when the form is loaded, before it shows.
     virtual void Form_Load() {}

@@ -1,0 +1,98 @@
+#include "platform/web/Surface.h"
+
+#include "platform/web/Page.h"
+
+#include <array>
+
+namespace tumble {
+
+namespace {
+
+struct Button {
+    int bit; // in a browser's sum of buttons
+    std::int16_t code;
+};
+
+// By a browser's numbers: left, middle, right.
+constexpr std::array<Button, 3> mouseButtons{{{1, 1}, {4, 4}, {2, 2}}};
+constexpr int heldButtons = 7; // a browser sums the three up as the box's handlers do
+
+constexpr float startDragDistance = 10 * twipsPerPixel;
+constexpr int ringRadius = 8; // at scale 1
+
+} // namespace
+
+Surface::Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures)
+    : box_(&box), hand_(box), shown_(box.painting(), pictures), canvas_(canvas), ring_(ring) {}
+
+void Surface::place(const PixelRect& place, double scale) {
+    place_ = place;
+    scale_ = PixelScale(scale);
+    if (canvas_.size() != place.size()) {
+        canvas_.resize(place.size());
+        shown_.forget();
+    }
+    shownRing_.reset();
+}
+
+void Surface::show() {
+    if (box_ != nullptr && !place_.empty()) {
+        shown_.bringUpToDate(canvas_, box_->painting(), scale_);
+        showRing();
+    }
+}
+
+void Surface::showRing() {
+    const std::optional<Ring> ring = pointer_.ring();
+    if (ring == shownRing_) {
+        return;
+    }
+    shownRing_ = ring;
+    page_attribute(ring_, "class", !ring ? "ring" : ring->holds ? "ring shows holds" : "ring shows");
+    if (ring) {
+        const int radius = static_cast<int>(ringRadius * scale_.factor());
+        page_place(ring_, place_.left + scale_.pixel(ring->at.x) - radius,
+                   place_.top + scale_.pixel(ring->at.y) - radius, 2 * radius + 1, 2 * radius + 1);
+    }
+}
+
+// While one button is down, a browser tells of another as of a move.
+void Surface::mouse(const MouseReport& report) {
+    const auto& [button, buttons, Shift, x, y] = report;
+    if (button < 0) {
+        pointer_.move(static_cast<std::int16_t>(buttons & heldButtons), Shift, twips(x, y));
+    } else if (button < static_cast<int>(mouseButtons.size())) {
+        const auto& [bit, code] = mouseButtons.at(static_cast<std::size_t>(button));
+        if ((buttons & bit) != 0) {
+            pointer_.press(code, Shift, twips(x, y));
+        } else {
+            pointer_.release(code, Shift, twips(x, y));
+        }
+    }
+}
+
+void Surface::touch(Touch touch, int finger, double x, double y) {
+    const Point at = twips(x, y);
+    switch (touch) {
+    case Touch::Down:
+        finger_.touch(finger, at, startDragDistance);
+        break;
+    case Touch::Move:
+        finger_.move(finger, at);
+        break;
+    case Touch::Up:
+        finger_.lift(finger, at);
+        break;
+    case Touch::Cancel:
+        finger_.cancel();
+        hand_.letGo();
+        break;
+    }
+}
+
+void Surface::retire() {
+    box_ = nullptr;
+    hand_.retire();
+}
+
+} // namespace tumble

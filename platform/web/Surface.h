@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/Finger.h"
+#include "platform/Hand.h"
+#include "platform/KeyboardPointer.h"
+#include "platform/ShownPainting.h"
+#include "platform/web/WebCanvas.h"
+
+#include <cstdint>
+
+namespace tumble {
+
+/// What a browser tells of a pointer: the button that changed, -1 for none, and those that are down after it.
+struct MouseReport {
+    int button;
+    int buttons;
+    std::int16_t Shift;
+    double x; // in pixels of the canvas
+    double y;
+};
+
+enum class Touch { Down, Move, Up, Cancel };
+
+/// Shows a picture box's painting on a canvas element, in the exact pixels of the screen, and reports the mouse,
+/// fingers and the keyboard's pointer to it.
+class Surface : private Pinned {
+public:
+    /// `ring` is the element that marks the keyboard's pointer.
+    Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures);
+
+    /// Where the canvas lies in its container, and how many of its pixels 15 twips are.
+    void place(const PixelRect& place, double scale);
+    /// Brings what was painted to the canvas.
+    void show();
+    /// The window's colour is another.
+    void recolour() { shown_.forget(); }
+
+    void mouse(const MouseReport& report);
+    void touch(Touch touch, int finger, double x, double y);
+    void longPress() { finger_.longPress(); }
+    bool key(const PointerKeyPress& press) { return pointer_.key(press); }
+    void letGo() { hand_.letGo(); }
+    /// The box may be gone from now on.
+    void retire();
+
+private:
+    Point twips(double x, double y) const { return {scale_.twips(x), scale_.twips(y)}; }
+    void showRing();
+
+    PictureBox* box_; // null once retired
+    Hand hand_;
+    KeyboardPointer pointer_{hand_};
+    Finger finger_{pointer_};
+    ShownPainting shown_;
+    WebCanvas canvas_;
+    PixelRect place_;
+    PixelScale scale_{1};
+    int ring_;
+    std::optional<Ring> shownRing_;
+};
+
+} // namespace tumble

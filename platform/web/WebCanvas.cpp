@@ -1,0 +1,68 @@
+#include "platform/web/WebCanvas.h"
+
+#include "platform/web/Page.h"
+
+#include <cstddef>
+
+namespace tumble {
+
+WebCanvas::WebCanvas(PixelSize size, std::optional<Colour> ground) : WebCanvas(page_canvasMake()) {
+    resize(size);
+    if (ground) {
+        fill(bounds(), *ground);
+    }
+}
+
+WebCanvas::~WebCanvas() {
+    page_remove(element_);
+}
+
+void WebCanvas::resize(PixelSize size) {
+    size_ = size;
+    page_canvasSize(element_, size.width, size.height);
+}
+
+std::unique_ptr<Canvas> WebCanvas::another(PixelSize size, std::optional<Colour> ground) const {
+    return std::make_unique<WebCanvas>(size, ground);
+}
+
+void WebCanvas::clip(const PixelRect& block) {
+    page_canvasClip(element_, block.left, block.top, block.width(), block.height());
+}
+
+void WebCanvas::fill(const PixelRect& block, Colour colour) {
+    if (!block.empty()) {
+        page_canvasFill(element_, block.left, block.top, block.width(), block.height(), colour);
+    }
+}
+
+void WebCanvas::takeUp(const Path& path, const Transform& toPixels) const {
+    static_assert(sizeof(Transform) == 6 * sizeof(double) && sizeof(Path::Step) == 7 * sizeof(double) &&
+                  offsetof(Path::Step, to) == sizeof(double) && offsetof(Path::Step, bends) == 3 * sizeof(double));
+    page_canvasPath(element_, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()));
+}
+
+void WebCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
+    takeUp(path, toPixels);
+    page_canvasFillPath(element_, colour);
+}
+
+void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
+    takeUp(path, toPixels);
+    page_canvasFillTexture(element_, dynamic_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
+}
+
+void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
+    takeUp(path, toPixels);
+    page_canvasStroke(element_, pen.colour, pen.width, pen.nib == Nib::Round);
+}
+
+void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+    if (!block.empty()) {
+        page_canvasDraw(element_, dynamic_cast<const WebCanvas&>(image).element_, block.left, block.top, block.width(),
+                        block.height(), at.x, at.y, turn == Turn::Mirrored || turn == Turn::Half,
+                        turn == Turn::UpsideDown || turn == Turn::Half);
+    }
+}
+
+} // namespace tumble

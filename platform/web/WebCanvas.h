@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Canvas.h"
+
+namespace tumble {
+
+/// A canvas element of the page, or one that never shows. Draws none but its like.
+class WebCanvas : public Canvas {
+public:
+    WebCanvas(PixelSize size, std::optional<Colour> ground);
+    /// An element of the page, still without a size.
+    explicit WebCanvas(int element) : element_(element) {}
+    ~WebCanvas() override;
+
+    /// Empties it.
+    void resize(PixelSize size);
+
+    PixelSize size() const override { return size_; }
+    std::unique_ptr<Canvas> another(PixelSize size, std::optional<Colour> ground) const override;
+    void clip(const PixelRect& block) override;
+    void fill(const PixelRect& block, Colour colour) override;
+    void fill(const Path& path, const Transform& toPixels, Colour colour) override;
+    void fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) override;
+    void stroke(const Path& path, const Transform& toPixels, const Pen& pen) override;
+    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
+
+private:
+    void takeUp(const Path& path, const Transform& toPixels) const;
+
+    int element_;
+    PixelSize size_;
+};
+
+} // namespace tumble
