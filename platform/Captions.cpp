@@ -1,6 +1,8 @@
 #include "platform/Captions.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
 #include <utility>
 
 namespace tumble {
@@ -29,6 +31,26 @@ CaptionStyle captionStyle(const OptionButton& /*option*/) {
 
 CaptionStyle captionStyle(const Frame& frame) {
     return {.font = frame.font};
+}
+
+TextSize textSize(const std::string& text, const WidthOf& widthOf, int lineSpacing, std::optional<int> width) {
+    double widest = 0;
+    int lines = 0;
+    for (std::size_t begin = 0; begin <= text.size(); ++lines) {
+        std::size_t end = width ? text.find(' ', begin) : std::string::npos;
+        for (auto next = end; next != std::string::npos;) {
+            next = text.find(' ', next + 1);
+            if (widthOf(text.substr(begin, next - begin)) <= *width) {
+                end = next;
+            } else {
+                break;
+            }
+        }
+        const std::string line = text.substr(begin, end - begin);
+        widest = std::max(widest, widthOf(line));
+        begin += line.size() + 1;
+    }
+    return {static_cast<int>(std::ceil(widest)), lines * lineSpacing, lineSpacing};
 }
 
 Captions::Captions(TextMeasure measure) : measure_(std::move(measure)) {}

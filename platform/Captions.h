@@ -42,6 +42,13 @@ struct TextSize {
 /// room.
 using TextMeasure = std::function<TextSize(const std::string& text, const CaptionFont& font, std::optional<int> width)>;
 
+/// How wide a desktop writes a piece of a text in one line.
+using WidthOf = std::function<double(const std::string& piece)>;
+
+/// How large a text is in lines of a height, for a desktop that can only measure pieces: broken at spaces if there is a
+/// width, as many words in a line as fit.
+TextSize textSize(const std::string& text, const WidthOf& widthOf, int lineSpacing, std::optional<int> width);
+
 /// The captions that show in a window. Those of one container that are alike have one size: the one asked for, times
 /// the scale, or where not all of them fit their rooms, the largest smaller and at last narrower one in which they do;
 /// never below 6.5 points times the scale. Fonts differ by a fifth between machines, places do not.

@@ -94,6 +94,17 @@ void OptionButton::Select() {
     click_();
 }
 
+OptionButton* OptionButton::beside(int step) const {
+    std::vector<OptionButton*> choices;
+    for (const AnyControl& control : container().controls()) {
+        if (auto* const* option = std::get_if<OptionButton*>(&control)) {
+            choices.push_back(*option);
+        }
+    }
+    const auto here = std::find(choices.begin(), choices.end(), this) - choices.begin() + step;
+    return here >= 0 && here < std::ssize(choices) ? choices.at(static_cast<std::size_t>(here)) : nullptr;
+}
+
 Frame::Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
              Font captionFont)
     : Control(container, std::move(name), std::move(caption), place, tabIndex), font(captionFont) {

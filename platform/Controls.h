@@ -158,6 +158,8 @@ public:
     /// Makes this the selected choice and raises its click; nothing happens when it is already.
     void Select();
     const std::string& Tag() const { return tag_; }
+    /// The choice so many after this one in its container, or before it; null where there is none.
+    OptionButton* beside(int step) const;
 
 private:
     Handler click_;

@@ -5,15 +5,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
-#include <utility>
 
 namespace tumble {
 
 namespace {
 
-constexpr int markWidth = 20; // at scale 1: that of an option button with the space behind it, as in style.css
-constexpr PixelSize buttonMargin{8, 4};
+constexpr PixelSize buttonMargin{8, 4}; // at scale 1, as below
+constexpr PixelSize markMargin{20, 0};  // as in style.css
+constexpr PixelSize frameMargin{frameCaptionHeight, 0};
 constexpr double pixelsPerPoint = 4.0 / 3;
 constexpr double lineHeight = 1.25; // of the font's size, as in style.css
 constexpr double mostOfPage = 0.9;
@@ -22,39 +21,31 @@ double pixels(const CaptionFont& font) {
     return font.points * pixelsPerPoint;
 }
 
-/// The width of the widest line, and how many lines there are, when as many words go into each as fit.
-std::pair<double, int> broken(std::string_view text, double room, const CaptionFont& font) {
-    const auto width = [&](std::string_view part) {
-        return page_textWidth(std::string(part).c_str(), pixels(font), font.bold) * font.stretch / 100;
-    };
-    double widest = 0;
-    int lines = 1;
-    for (auto end = text.find(' '); width(text) > room && end != std::string_view::npos; ++lines) {
-        for (auto next = end; next != std::string_view::npos && width(text.substr(0, next)) <= room;) {
-            end = next;
-            next = text.find(' ', next + 1);
-        }
-        widest = std::max(widest, width(text.substr(0, end)));
-        text.remove_prefix(end + 1);
-        end = text.find(' ');
-    }
-    return {std::max(widest, width(text)), lines};
-}
-
 TextSize measure(const std::string& text, const CaptionFont& font, std::optional<int> width) {
-    const auto [widest, lines] = broken(PlainCaption(text).text, width ? *width : HUGE_VAL, font);
-    const int lineSpacing = static_cast<int>(std::ceil(pixels(font) * lineHeight));
-    return {static_cast<int>(std::ceil(widest)), lines * lineSpacing, lineSpacing};
+    const auto widthOf = [&font](const std::string& piece) {
+        return page_textWidth(piece.c_str(), pixels(font), font.bold) * font.stretch / 100;
+    };
+    return textSize(PlainCaption(text).text, widthOf, static_cast<int>(std::ceil(pixels(font) * lineHeight)), width);
 }
 
-template<class Kind>
-Kind* as(const AnyControl& control) {
-    auto* const* kind = std::get_if<Kind*>(&control);
-    return kind != nullptr ? *kind : nullptr;
-}
-
-const Control& base(const AnyControl& control) {
-    return *std::visit([](const Control* each) { return each; }, control);
+/// Where a key leads along a row of choices or of values, which has so many; 0 for other keys.
+int step(PointerKey key, int count) {
+    switch (key) {
+    case PointerKey::Left:
+    case PointerKey::Up:
+    case PointerKey::PageUp:
+        return -1;
+    case PointerKey::Right:
+    case PointerKey::Down:
+    case PointerKey::PageDown:
+        return 1;
+    case PointerKey::Home:
+        return -count;
+    case PointerKey::End:
+        return count;
+    default:
+        return 0;
+    }
 }
 
 } // namespace
@@ -70,137 +61,114 @@ FormView::FormView(Form& form, Modality modality, PictureCache& pictures)
     page_attribute(window_, "aria-label", form.Caption().c_str());
     if (modality == Modality::Modal) {
         page_caption(page_add(window_, "h1", ""), form.Caption().c_str());
-        content_ = page_add(window_, "div", "content");
+        content_ = page_add(window_, "div", "");
     }
-    build(form, content_);
+    buildControls(form, content_);
 }
 
-FormView::~FormView() {
-    retire();
-}
-
-void FormView::shows(bool shows) {
-    shows_ = shows;
-    page_property(window_, "hidden", !shows);
-    if (shows) {
-        if (modality_ == Modality::Modal) {
-            page_showModal(window_);
-        } else {
-            page_title(form_->Caption().c_str());
-        }
-        focusFirst();
+void FormView::show() {
+    shows_ = true;
+    if (modality_ == Modality::Modeless) {
+        page_title(form_->Caption().c_str());
     }
+    page_show(window_);
 }
 
-void FormView::focusFirst() const {
-    const auto first = std::min_element(shown_.begin(), shown_.end(), [](const Shown& one, const Shown& other) {
-        return std::pair(one.input == 0, base(one.control).TabIndex()) <
-               std::pair(other.input == 0, base(other.control).TabIndex());
-    });
-    if (first != shown_.end() && first->input != 0) {
-        page_focus(first->input);
-    }
+void FormView::hide() {
+    shows_ = false;
+    page_property(window_, "hidden", 1);
 }
 
-void FormView::pointer(Pointer pointer) {
+void FormView::pointer(Pointer pointer) const {
     page_attribute(window_, "class", pointer == Pointer::Hourglass ? "window busy" : "window");
 }
 
-void FormView::build(const Container& container, int parent) {
+void FormView::buildControls(const Container& container, int parent) {
     const auto add = [&](auto* control) {
-        Shown shown = made(*control, parent);
-        page_attribute(shown.element, "data-name", control->Name().c_str());
-        if (shown.input != 0) {
-            page_property(shown.input, "tabIndex", control->TabIndex() + 1);
-        }
-        shown_.push_back(std::move(shown));
-        if constexpr (std::is_same_v<decltype(control), Frame*>) {
-            build(*control, shown_.back().element);
-        }
+        const int element = build(*control, parent);
+        page_attribute(element, "data-name", control->Name().c_str());
+        placed_.push_back({element, roomOf(*control)});
     };
     for (const AnyControl& control : container.controls()) {
         std::visit(add, control);
     }
 }
 
-FormView::Shown FormView::made(PictureBox& box, int parent) {
+int FormView::build(PictureBox& box, int parent) {
     const int canvas = page_add(parent, "canvas", "surface");
-    const int ring = page_add(parent, "div", "ring");
     page_attribute(canvas, "role", "img");
     page_attribute(canvas, "aria-label", box.Caption().c_str());
-    return {&box, canvas, canvas, 0, roomOf(box), std::make_unique<Surface>(box, canvas, ring, pictures_)};
+    takeInput(box, &box, canvas);
+    surfaces_.push_back(std::make_unique<Surface>(box, canvas, page_add(parent, "div", "ring"), pictures_));
+    return canvas;
 }
 
-FormView::Shown FormView::made(Label& label, int parent) {
-    const int element = page_add(parent, "div", label.align == TextAlign::Centre ? "label centred" : "label");
-    const int caption = page_add(element, "span", label.font.bold ? "bold" : "");
-    captioned(label, captionStyle(label), caption, roomOf(label), {});
-    return {&label, element, 0, caption, roomOf(label)};
+int FormView::build(Label& label, int parent) {
+    const int element = page_add(parent, "div", label.align == TextAlign::Centre ? "centred" : "");
+    addCaption(label, captionStyle(label), roomOf(label), {}, element);
+    return element;
 }
 
-FormView::Shown FormView::made(CommandButton& button, int parent) {
+int FormView::build(CommandButton& button, int parent) {
     const int element = page_add(parent, "button", button.pressedBy(Key::Enter) ? "default" : "");
     page_attribute(element, "type", "button");
-    std::unique_ptr<WebCanvas> icon;
     if (button.face == ButtonFace::IconAboveCaption) {
-        icon = std::make_unique<WebCanvas>(page_add(element, "canvas", "icon"));
+        icon_ = std::make_unique<WebCanvas>(page_add(element, "canvas", "icon"));
     }
-    const int caption = page_add(element, "span", "");
-    captioned(button, captionStyle(button), caption, roomOf(button), buttonMargin);
-    return {&button, element, element, caption, roomOf(button), {}, std::move(icon)};
+    addCaption(button, captionStyle(button), roomOf(button), buttonMargin, element);
+    takeInput(button, &button, element);
+    return element;
 }
 
-FormView::Shown FormView::made(OptionButton& option, int parent) {
+int FormView::build(OptionButton& option, int parent) {
     const int element = page_add(parent, "label", "option");
     const int input = page_add(element, "input", "");
     page_attribute(input, "type", "radio");
     page_attribute(input, "name", std::to_string(parent).c_str());
-    const int caption = page_add(element, "span", "");
-    captioned(option, captionStyle(option), caption, roomOf(option), {markWidth, 0});
-    return {&option, element, input, caption, roomOf(option)};
+    addCaption(option, captionStyle(option), roomOf(option), markMargin, element);
+    takeInput(option, &option, input);
+    updates_.emplace(&option, [&option, input] { page_property(input, "checked", option.Value()); });
+    return element;
 }
 
-FormView::Shown FormView::made(Frame& frame, int parent) {
+int FormView::build(Frame& frame, int parent) {
     const int element = page_add(parent, "fieldset", "");
-    const int caption = page_add(page_add(element, "legend", ""), "span", "bold");
     Place room = roomOf(frame);
     room.Height = frameCaptionHeight * twipsPerPixel;
-    captioned(frame, captionStyle(frame), caption, room, {frameCaptionHeight, 0});
-    return {&frame, element, 0, caption, roomOf(frame)};
+    addCaption(frame, captionStyle(frame), room, frameMargin, page_add(element, "legend", ""));
+    buildControls(frame, element);
+    return element;
 }
 
-FormView::Shown FormView::made(Slider& slider, int parent) {
+int FormView::build(Slider& slider, int parent) {
     const int element = page_add(parent, "input", "");
     page_attribute(element, "type", "range");
     page_attribute(element, "aria-orientation", "vertical");
     page_attribute(element, "aria-label", slider.Caption().c_str());
-    return {&slider, element, element, 0, roomOf(slider)};
+    takeInput(slider, &slider, element);
+    updates_.emplace(&slider, [&slider, element] {
+        page_property(element, "min", slider.Min());
+        page_property(element, "max", slider.Max());
+        page_property(element, "value", slider.Value());
+    });
+    return element;
 }
 
-void FormView::captioned(const Control& control, const CaptionStyle& style, int caption, Place room, PixelSize margin) {
-    if (style.wrap == Wrap::No) {
-        page_attribute(caption, "data-lines", "1");
-    }
+void FormView::addCaption(Control& control, const CaptionStyle& style, Place room, PixelSize margin, int element) {
+    const int caption = page_add(element, "span", style.font.bold ? "bold" : "");
+    page_attribute(caption, "data-wrap", style.wrap == Wrap::No ? "no" : "yes");
     const auto space = [this, room, margin]() -> PixelSize {
         const auto [width, height] = layout_.pixels(room).size();
-        return {width - static_cast<int>(margin.width * layout_.scale),
-                height - static_cast<int>(margin.height * layout_.scale)};
+        return {width - static_cast<int>(margin.width * scale()), height - static_cast<int>(margin.height * scale())};
     };
     captions_.add(control, style, space,
                   [caption](const CaptionFont& font) { page_font(caption, pixels(font), font.stretch); });
+    updates_.emplace(&control, [&control, caption] { page_caption(caption, control.Caption().c_str()); });
 }
 
-void FormView::update(const Shown& shown) const {
-    if (shown.caption != 0) {
-        page_caption(shown.caption, base(shown.control).Caption().c_str());
-    }
-    if (const auto* option = as<OptionButton>(shown.control)) {
-        page_property(shown.input, "checked", option->Value());
-    } else if (const auto* slider = as<Slider>(shown.control)) {
-        page_property(shown.input, "min", slider->Min());
-        page_property(shown.input, "max", slider->Max());
-        page_property(shown.input, "value", slider->Value());
-    }
+void FormView::takeInput(Control& control, AnyControl any, int element) {
+    page_property(element, "tabIndex", control.TabIndex() + 1);
+    inputs_.emplace(element, any);
 }
 
 void FormView::layOut(PixelSize page, double scaleInFront) {
@@ -208,188 +176,104 @@ void FormView::layOut(PixelSize page, double scaleInFront) {
     if (modality_ == Modality::Modal) {
         const double fits = size_.scaleToFit(page.width * mostOfPage, page.height * mostOfPage);
         layout_.scale = std::min(scaleInFront, fits);
-        layout_.content = size_.at(layout_.scale).at({});
+        layout_.content = size_.at(scale()).at({});
     }
-    page_length(window_, "--unit", layout_.scale);
     const auto place = [](int element, const PixelRect& to) {
         page_place(element, to.left, to.top, to.width(), to.height());
     };
+    page_length(window_, "--unit", scale());
     place(content_, layout_.content);
-    for (const Shown& shown : shown_) {
-        const PixelRect to = layout_.pixels(shown.room);
-        place(shown.element, to);
-        update(shown);
-        if (shown.surface != nullptr) {
-            shown.surface->place(to, layout_.scale);
-        }
-        if (shown.icon != nullptr) {
-            const int width = static_cast<int>(std::lround(buttonIconSize * layout_.scale));
-            shown.icon->resize({width, width});
-            paint(*shown.icon, desktop().App().Icon, shown.icon->bounds(), shown.icon->bounds(), pictures_);
-        }
+    for (const auto& [element, room] : placed_) {
+        place(element, layout_.pixels(room));
     }
-    captions_.fit(layout_.scale);
-    showPaintings();
+    for (const auto& [control, update] : updates_) {
+        update();
+    }
+    captions_.fit(scale());
+    for (const auto& surface : surfaces_) {
+        surface->layOut(layout_);
+    }
+    if (icon_ != nullptr) {
+        const int width = static_cast<int>(std::lround(buttonIconSize * scale()));
+        icon_->resize({width, width});
+        paint(*icon_, desktop().App().Icon, icon_->bounds(), icon_->bounds(), pictures_);
+    }
 }
 
 void FormView::changed(const Control& control) {
-    for (const Shown& shown : shown_) {
-        if (&base(shown.control) == &control) {
-            update(shown);
-        }
-    }
-    captions_.fit(control, layout_.scale);
+    const auto [first, last] = updates_.equal_range(&control);
+    std::for_each(first, last, [](const auto& update) { update.second(); });
+    captions_.fit(control, scale());
 }
 
-void FormView::showPaintings() {
-    for (const Shown& shown : shown_) {
-        if (shown.surface != nullptr) {
-            shown.surface->show();
-        }
-    }
-}
-
-void FormView::recolour() {
-    for (const Shown& shown : shown_) {
-        if (shown.surface != nullptr) {
-            shown.surface->recolour();
-        }
-    }
-}
-
-void FormView::letGo() {
-    for (const Shown& shown : shown_) {
-        if (shown.surface != nullptr) {
-            shown.surface->letGo();
-        }
-    }
-}
-
-const FormView::Shown* FormView::shownAs(int input) const {
-    const auto found =
-        std::find_if(shown_.begin(), shown_.end(), [input](const Shown& shown) { return shown.input == input; });
-    return input != 0 && found != shown_.end() ? &*found : nullptr;
-}
-
-Surface* FormView::surface(int element) {
-    const Shown* shown = shownAs(element);
-    return shown != nullptr ? shown->surface.get() : nullptr;
-}
-
-// A browser has let the player choose before anybody is asked.
-void FormView::pressed(int element) {
-    const Shown* shown = shownAs(element);
-    if (shown == nullptr) {
+// A browser lets the player choose before anybody is asked.
+void FormView::pressed(int element) const {
+    const auto input = inputs_.find(element);
+    if (input == inputs_.end()) {
         return;
     }
-    if (const auto* button = as<CommandButton>(shown->control)) {
-        button->Click();
-    } else if (auto* option = as<OptionButton>(shown->control)) {
-        option->Select();
-        if (!option->Value()) {
-            std::for_each(shown_.begin(), shown_.end(), [this](const Shown& each) { update(each); });
+    if (auto* const* button = std::get_if<CommandButton*>(&input->second)) {
+        (*button)->Click();
+    } else if (auto* const* option = std::get_if<OptionButton*>(&input->second)) {
+        (*option)->Select();
+        if (!(*option)->Value()) {
+            std::for_each(updates_.begin(), updates_.end(), [](const auto& update) { update.second(); });
         }
     }
 }
 
-void FormView::slid(int element, int value) {
-    const Shown* shown = shownAs(element);
-    if (auto* slider = shown != nullptr ? as<Slider>(shown->control) : nullptr) {
-        if (slider->takesInput()) {
-            slider->Value(value);
-        }
-        changed(*slider);
+void FormView::slid(int element, int value) const {
+    const auto input = inputs_.find(element);
+    if (auto* const* slider = input != inputs_.end() ? std::get_if<Slider*>(&input->second) : nullptr) {
+        (*slider)->takesInput() ? (*slider)->Value(value) : updates_.find(*slider)->second();
     }
 }
 
-bool FormView::key(int focus, const KeyReport& report) {
-    if (report.letter != 0) {
-        return report.repeated || form_->pressAccessKey(report.letter);
+bool FormView::key(int focus, const KeyReport& report) const {
+    const auto& [key, letter, shiftKeys, repeated] = report;
+    if (letter != 0) {
+        return repeated || form_->pressAccessKey(letter);
     }
-    if (report.key >= firstFormKey) {
-        if (!report.repeated) {
-            form_->press(static_cast<Key>(report.key - firstFormKey));
+    if (key >= firstFormKey) {
+        if (!repeated) {
+            form_->press(static_cast<Key>(key - firstFormKey));
         }
         return true;
     }
-    const Shown* shown = shownAs(focus);
-    if (shown == nullptr || report.key < 0) {
-        return false;
-    }
-    const auto key = static_cast<PointerKey>(report.key);
-    if (shown->surface != nullptr) {
-        return shown->surface->key({key, (report.shiftKeys & 1) != 0, (report.shiftKeys & 2) != 0,
-                                    (report.shiftKeys & 4) != 0, (report.shiftKeys & 8) != 0, report.repeated});
-    }
-    if (auto* option = as<OptionButton>(shown->control)) {
-        return this->key(*option, key);
-    }
-    auto* slider = as<Slider>(shown->control);
-    return slider != nullptr && this->key(*slider, key);
-}
-
-bool FormView::key(OptionButton& option, PointerKey key) {
-    const bool back = key == PointerKey::Left || key == PointerKey::Up;
-    if (!back && key != PointerKey::Right && key != PointerKey::Down) {
-        return false;
-    }
-    std::vector<const Shown*> choices;
-    for (const Shown& shown : shown_) {
-        if (as<OptionButton>(shown.control) != nullptr && &base(shown.control).container() == &option.container()) {
-            choices.push_back(&shown);
+    for (const auto& surface : surfaces_) {
+        if (surface->canvas() == focus && key >= 0) {
+            return surface->key({static_cast<PointerKey>(key), (shiftKeys & 1) != 0, (shiftKeys & 2) != 0,
+                                 (shiftKeys & 4) != 0, (shiftKeys & 8) != 0, repeated});
         }
     }
-    if (back) {
-        std::reverse(choices.begin(), choices.end());
-    }
-    const auto here = std::find_if(choices.begin(), choices.end(),
-                                   [&](const Shown* shown) { return &base(shown->control) == &option; });
-    if (here + 1 != choices.end() && option.takesInput()) {
-        page_focus((*(here + 1))->input);
-        pressed((*(here + 1))->input);
-    }
-    return true;
-}
-
-bool FormView::key(Slider& slider, PointerKey key) {
-    int to = slider.Value();
-    switch (key) {
-    case PointerKey::Up:
-    case PointerKey::Left:
-    case PointerKey::PageUp:
-        --to;
-        break;
-    case PointerKey::Down:
-    case PointerKey::Right:
-    case PointerKey::PageDown:
-        ++to;
-        break;
-    case PointerKey::Home:
-        to = slider.Min();
-        break;
-    case PointerKey::End:
-        to = slider.Max();
-        break;
-    default:
+    const auto input = inputs_.find(focus);
+    if (input == inputs_.end() || key < 0) {
         return false;
     }
-    if (slider.takesInput()) {
-        slider.Value(to);
+    if (auto* const* slider = std::get_if<Slider*>(&input->second)) {
+        const int by = step(static_cast<PointerKey>(key), (*slider)->Max() - (*slider)->Min());
+        slid(focus, (*slider)->Value() + by);
+        return by != 0;
     }
-    return true;
+    auto* const* option = std::get_if<OptionButton*>(&input->second);
+    const int by = option != nullptr ? step(static_cast<PointerKey>(key), 0) : 0;
+    if (OptionButton* next = by != 0 ? (*option)->beside(by) : nullptr) {
+        next->Select();
+        page_focus(std::find_if(inputs_.begin(), inputs_.end(), [next](const auto& each) {
+                       return each.second == AnyControl(next);
+                   })->first);
+    }
+    return by != 0;
 }
 
 void FormView::retire() {
-    if (form_ == nullptr) {
-        return;
-    }
     form_ = nullptr;
     shows_ = false;
+    inputs_.clear();
+    updates_.clear();
     captions_.clear();
-    for (const Shown& shown : shown_) {
-        if (shown.surface != nullptr) {
-            shown.surface->retire();
-        }
+    for (const auto& surface : surfaces_) {
+        surface->retire();
     }
     page_remove(window_);
 }

@@ -4,6 +4,8 @@
 #include "platform/Form.h"
 #include "platform/web/Surface.h"
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -24,55 +26,45 @@ inline constexpr int firstFormKey = 12;
 class FormView : private Pinned {
 public:
     FormView(Form& form, Modality modality, PictureCache& pictures);
-    ~FormView();
+    ~FormView() { retire(); }
 
     const Form* form() const { return form_; }
     double scale() const { return layout_.scale; }
     bool shows() const { return shows_; }
-    void shows(bool shows);
-    void pointer(Pointer pointer);
+    void show();
+    void hide();
+    void pointer(Pointer pointer) const;
 
     /// For a page of that size; a modal form at the scale of the one in front, if it fits.
     void layOut(PixelSize page, double scaleInFront);
     void changed(const Control& control);
-    void showPaintings();
-    void recolour();
-    void letGo();
 
     // What the page reports of its elements; nothing of those that it does not know.
-    void pressed(int element);
-    void slid(int element, int value);
+    void pressed(int element) const;
+    void slid(int element, int value) const;
     /// False for a key that means nothing here.
-    bool key(int focus, const KeyReport& report);
-    Surface* surface(int element);
+    bool key(int focus, const KeyReport& report) const;
 
+    const std::vector<std::unique_ptr<Surface>>& surfaces() const { return surfaces_; }
     /// The elements go at once, and the form, which may be gone, hears no more.
     void retire();
 
 private:
-    struct Shown {
-        AnyControl control;
-        int element; // that has its place
-        int input;   // that the player acts on; 0: none
-        int caption; // 0: none
+    struct Placed {
+        int element;
         Place room;
-        std::unique_ptr<Surface> surface{};
-        std::unique_ptr<WebCanvas> icon{};
     };
 
-    void build(const Container& container, int parent);
-    Shown made(PictureBox& box, int parent);
-    Shown made(Label& label, int parent);
-    Shown made(CommandButton& button, int parent);
-    Shown made(OptionButton& option, int parent);
-    Shown made(Frame& frame, int parent);
-    Shown made(Slider& slider, int parent);
-    void captioned(const Control& control, const CaptionStyle& style, int caption, Place room, PixelSize margin);
-    void update(const Shown& shown) const;
-    const Shown* shownAs(int input) const;
-    void focusFirst() const;
-    bool key(OptionButton& option, PointerKey key);
-    bool key(Slider& slider, PointerKey key);
+    void buildControls(const Container& container, int parent);
+    int build(PictureBox& box, int parent);
+    int build(Label& label, int parent);
+    int build(CommandButton& button, int parent);
+    int build(OptionButton& option, int parent);
+    int build(Frame& frame, int parent);
+    int build(Slider& slider, int parent);
+    /// Adds the caption that an element shows to it, less wide and high than the control's room by a margin.
+    void addCaption(Control& control, const CaptionStyle& style, Place room, PixelSize margin, int element);
+    void takeInput(Control& control, AnyControl any, int element);
 
     Form* form_; // null once retired
     Modality modality_;
@@ -81,8 +73,12 @@ private:
     int content_; // where the controls are
     FormSize size_;
     Layout layout_;
-    bool shows_ = true;
-    std::vector<Shown> shown_;
+    bool shows_ = false;
+    std::vector<Placed> placed_;
+    std::vector<std::unique_ptr<Surface>> surfaces_;
+    std::unique_ptr<WebCanvas> icon_;
+    std::map<int, AnyControl> inputs_; // by the elements that the player acts on
+    std::multimap<const Control*, std::function<void()>> updates_;
     Captions captions_;
 };
 

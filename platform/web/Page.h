@@ -20,7 +20,8 @@ void page_caption(int element, const char* text);
 void page_font(int element, double pixels, int stretch);
 double page_textWidth(const char* text, double pixels, bool bold);
 void page_focus(int element);
-void page_showModal(int element);
+/// A dialog is modal. The first in the tab order has the focus.
+void page_show(int element);
 void page_title(const char* text);
 /// Says that the game is over and offers another.
 void page_over();

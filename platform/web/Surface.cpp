@@ -23,13 +23,13 @@ constexpr int ringRadius = 8; // at scale 1
 } // namespace
 
 Surface::Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures)
-    : box_(&box), hand_(box), shown_(box.painting(), pictures), canvas_(canvas), ring_(ring) {}
+    : box_(&box), hand_(box), shown_(box.painting(), pictures), element_(canvas), canvas_(canvas), ring_(ring) {}
 
-void Surface::place(const PixelRect& place, double scale) {
-    place_ = place;
-    scale_ = PixelScale(scale);
-    if (canvas_.size() != place.size()) {
-        canvas_.resize(place.size());
+void Surface::layOut(const Layout& layout) {
+    place_ = layout.pixels(box_->place());
+    scale_ = PixelScale(layout.scale);
+    if (canvas_.size() != place_.size()) {
+        canvas_.resize(place_.size());
         shown_.forget();
     }
     shownRing_.reset();

@@ -3,6 +3,7 @@
 #include "platform/Finger.h"
 #include "platform/Hand.h"
 #include "platform/KeyboardPointer.h"
+#include "platform/Layout.h"
 #include "platform/ShownPainting.h"
 #include "platform/web/WebCanvas.h"
 
@@ -28,8 +29,11 @@ public:
     /// `ring` is the element that marks the keyboard's pointer.
     Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures);
 
-    /// Where the canvas lies in its container, and how many of its pixels 15 twips are.
-    void place(const PixelRect& place, double scale);
+    /// The element.
+    int canvas() const { return element_; }
+
+    /// The canvas has its place; it is to be `show`n.
+    void layOut(const Layout& layout);
     /// Brings what was painted to the canvas.
     void show();
     /// The window's colour is another.
@@ -52,6 +56,7 @@ private:
     KeyboardPointer pointer_{hand_};
     Finger finger_{pointer_};
     ShownPainting shown_;
+    int element_;
     WebCanvas canvas_;
     PixelRect place_;
     PixelScale scale_{1};

@@ -22,15 +22,14 @@ WebDesktop::WebDesktop(Application application, PicturePainter painter)
     page_listen();
 }
 
-template<class Report>
-void WebDesktop::handle(const Report& report) {
+void WebDesktop::handle(const std::function<void()>& report) {
     if (ended_) {
         return;
     }
     ++running_;
     report();
     --running_;
-    showPaintings();
+    everySurface(&Surface::show);
     if (running_ == 0) {
         retired_.clear();
         if (ended_) {
@@ -39,10 +38,9 @@ void WebDesktop::handle(const Report& report) {
     }
 }
 
-template<class Wait>
-void WebDesktop::suspend(const Wait& wait) {
+void WebDesktop::suspend(void (*wait)()) {
     assert(!suspended_);
-    showPaintings();
+    everySurface(&Surface::show);
     suspended_ = true;
     wait();
     suspended_ = false;
@@ -60,7 +58,7 @@ void WebDesktop::Show(Form& form, Modality modality) {
         view = views_.back().get();
     }
     layOut(*view);
-    view->shows(true);
+    view->show();
     if (modality == Modality::Modal) {
         const Modal modal(*this, &form);
         modalForm_ = &form;
@@ -71,19 +69,19 @@ void WebDesktop::Show(Form& form, Modality modality) {
 
 void WebDesktop::Hide(Form& form) {
     if (FormView* view = viewOf(form)) {
-        view->shows(false);
+        view->hide();
     }
 }
 
 void WebDesktop::Unload(Form& form) {
-    const auto view =
-        std::find_if(views_.begin(), views_.end(), [&](const auto& each) { return each->form() == &form; });
-    if (view == views_.end()) {
+    const FormView* view = viewOf(form);
+    const auto place = std::find_if(views_.begin(), views_.end(), [&](const auto& each) { return each.get() == view; });
+    if (place == views_.end()) {
         return;
     }
-    (*view)->retire();
-    retired_.push_back(std::move(*view));
-    views_.erase(view);
+    (*place)->retire();
+    retired_.push_back(std::move(*place));
+    views_.erase(place);
     if (modalForm_ == &form) {
         page_resume();
     }
@@ -96,7 +94,7 @@ void WebDesktop::Refresh(Form& form) {
 }
 
 void WebDesktop::MousePointer(Form& form, Pointer pointer) {
-    if (FormView* view = viewOf(form)) {
+    if (const FormView* view = viewOf(form)) {
         view->pointer(pointer);
     }
 }
@@ -107,8 +105,9 @@ void WebDesktop::MsgBox(const std::string& text, const std::string& caption) {
     page_caption(page_add(box, "p", ""), text.c_str());
     boxButton_ = page_add(box, "button", "default");
     page_caption(boxButton_, "OK");
+    page_property(boxButton_, "tabIndex", 1);
     page_length(box, "--unit", inFront() != nullptr ? inFront()->scale() : 1);
-    page_showModal(box);
+    page_show(box);
     {
         const Modal modal(*this);
         suspend(page_suspend);
@@ -141,42 +140,32 @@ void WebDesktop::layOut(FormView& view) const {
     }
 }
 
-void WebDesktop::recoloured() {
-    for (const auto& view : views_) {
-        view->recolour();
-    }
-}
-
-void WebDesktop::letGo() {
-    for (const auto& view : views_) {
-        view->letGo();
-    }
-}
-
 void WebDesktop::pressed(int element) {
     if (element != 0 && element == boxButton_) {
         boxButton_ = 0;
         page_resume();
-    } else if (FormView* view = inFront()) {
+    } else if (const FormView* view = inFront()) {
         view->pressed(element);
     }
 }
 
 bool WebDesktop::key(int focus, const KeyReport& report) {
-    if (boxButton_ != 0) {
-        const bool closes = report.key >= firstFormKey && static_cast<Key>(report.key - firstFormKey) != Key::F1;
-        if (closes && !report.repeated) {
-            pressed(boxButton_);
-        }
-        return closes;
+    if (boxButton_ == 0) {
+        const FormView* view = inFront();
+        return view != nullptr && view->key(focus, report);
     }
-    FormView* view = inFront();
-    return view != nullptr && view->key(focus, report);
+    const bool closes = report.key >= firstFormKey && static_cast<Key>(report.key - firstFormKey) != Key::F1;
+    if (closes && !report.repeated) {
+        pressed(boxButton_);
+    }
+    return closes;
 }
 
-void WebDesktop::showPaintings() const {
+void WebDesktop::everySurface(const std::function<void(Surface&)>& action) const {
     for (const auto& view : views_) {
-        view->showPaintings();
+        for (const auto& surface : view->surfaces()) {
+            action(*surface);
+        }
     }
 }
 
@@ -197,13 +186,13 @@ WebDesktop& page() {
     return static_cast<WebDesktop&>(desktop());
 }
 
-template<class Report>
-void atSurface(int canvas, const Report& report) {
+void handleAt(int canvas, const std::function<void(Surface&)>& report) {
     page().handle([&] {
-        FormView* view = page().inFront();
-        if (Surface* surface = view != nullptr ? view->surface(canvas) : nullptr) {
-            report(*surface);
-        }
+        page().everySurface([&](Surface& surface) {
+            if (surface.canvas() == canvas) {
+                report(surface);
+            }
+        });
     });
 }
 
@@ -218,24 +207,24 @@ using namespace tumble;
 extern "C" {
 
 EMSCRIPTEN_KEEPALIVE void page_resized(int width, int height) {
-    page().handle([&] { page().resized({width, height}); });
+    page().handle([=] { page().resized({width, height}); });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_recoloured() {
-    page().handle([] { page().recoloured(); });
+    page().everySurface(&Surface::recolour);
 }
 
 EMSCRIPTEN_KEEPALIVE void page_shown() {
-    page().handle([] { page().letGo(); });
+    page().handle([] { page().everySurface(&Surface::letGo); });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_pressed(int element) {
-    page().handle([&] { page().pressed(element); });
+    page().handle([=] { page().pressed(element); });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_slid(int element, int value) {
-    page().handle([&] {
-        if (FormView* view = page().inFront()) {
+    page().handle([=] {
+        if (const FormView* view = page().inFront()) {
             view->slid(element, value);
         }
     });
@@ -243,22 +232,22 @@ EMSCRIPTEN_KEEPALIVE void page_slid(int element, int value) {
 
 /// True for a key that the browser may have. Of a handler that is suspended the page gets false.
 EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, int letter, int shiftKeys, bool repeated) {
-    bool taken = true;
+    bool taken = repeated;
     page().handle([&] { taken = page().key(focus, {key, static_cast<char>(letter), shiftKeys, repeated}); });
     return !taken;
 }
 
 EMSCRIPTEN_KEEPALIVE void page_mouse(int canvas, int button, int buttons, int shiftKeys, double x, double y) {
-    atSurface(canvas, [&](Surface& surface) {
+    handleAt(canvas, [=](Surface& surface) {
         surface.mouse({button, buttons, static_cast<std::int16_t>(shiftKeys), x, y});
     });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_touch(int canvas, int touch, int finger, double x, double y) {
-    atSurface(canvas, [&](Surface& surface) { surface.touch(static_cast<Touch>(touch), finger, x, y); });
+    handleAt(canvas, [=](Surface& surface) { surface.touch(static_cast<Touch>(touch), finger, x, y); });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_longPress(int canvas) {
-    atSurface(canvas, [](Surface& surface) { surface.longPress(); });
+    handleAt(canvas, [](Surface& surface) { surface.longPress(); });
 }
 }

@@ -5,6 +5,7 @@
 #include "platform/Random.h"
 #include "platform/web/FormView.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,23 +32,23 @@ public:
     void painted(PictureBox& box, const PaintItem& item) override;
     ClockRandom& random() override { return random_; }
 
-    /// Hands on what the page reports. What it leads to shows when it has been handled.
-    template<class Report>
-    void handle(const Report& report);
+    // What the page reports.
+
+    /// Handles a report, if the game is not over; what it leads to shows afterwards.
+    void handle(const std::function<void()>& report);
     void resized(PixelSize page);
-    void recoloured();
-    void letGo();
     void pressed(int element);
     /// False for a key that means nothing.
     bool key(int focus, const KeyReport& report);
+    /// The form in front; null when none shows.
     FormView* inFront() const;
+    void everySurface(const std::function<void(Surface&)>& action) const;
 
 private:
     FormView* viewOf(const Form& form) const;
     void layOut(FormView& view) const;
-    void showPaintings() const;
-    template<class Wait>
-    void suspend(const Wait& wait);
+    /// Suspends the running handler for as long as the page waits.
+    void suspend(void (*wait)());
     void nextFrame();
 
     PictureCache pictures_;

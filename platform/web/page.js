@@ -74,6 +74,7 @@ const page = {
   listen() {
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
     on(['keydown'], page.key);
+    on(['keydown', 'pointerdown'], ({key}) => document.body.classList.toggle('keys', !!key));
     on(['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], page.pointer);
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
     on(['mousedown'], (event) => event.target.closest?.('.surface') && event.preventDefault());
@@ -142,7 +143,7 @@ const page = {
   },
   // The ampersand marks the access key.
   caption(number, text) {
-    const [before, after] = UTF8ToString(text).split('&');
+    const [before, after] = UTF8ToString(text).replaceAll('\r', '').split('&');
     const mark = document.createElement('u');
     mark.textContent = after?.[0];
     page.elements[number].replaceChildren(before, ...after ? [mark, after.slice(1)] : []);
@@ -161,14 +162,18 @@ const page = {
   focus(number) {
     page.elements[number].focus({preventScroll: true});
   },
-  showModal(number) {
-    page.elements[number].showModal();
+  show(number) {
+    const element = page.elements[number];
+    element.hidden = false;
+    element.showModal?.();
+    [...element.querySelectorAll('[tabindex]')].sort((one, other) => one.tabIndex - other.tabIndex)[0]?.focus();
   },
   title(text) {
     document.title = UTF8ToString(text);
   },
   over() {
     document.body.classList.add('over');
+    document.querySelector('#over a').focus();
   },
 
   // Waiting.
