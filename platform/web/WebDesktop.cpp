@@ -101,6 +101,7 @@ void WebDesktop::MousePointer(Form& form, Pointer pointer) {
 
 void WebDesktop::MsgBox(const std::string& text, const std::string& caption) {
     const int box = page_add(0, "dialog", "window message");
+    page_attribute(box, "aria-label", caption.c_str());
     page_caption(page_add(box, "h1", ""), caption.c_str());
     page_caption(page_add(box, "p", ""), text.c_str());
     boxButton_ = page_add(box, "button", "default");

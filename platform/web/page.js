@@ -100,16 +100,21 @@ const page = {
 
     const main = page.elements[0] = document.querySelector('main');
     main.replaceChildren();
-    let size;
-    const observer = new ResizeObserver((entries) => {
-      for (const {target, devicePixelContentBoxSize: [box]} of entries) {
-        size = target === main ? [box.inlineSize, box.blockSize] : size;
-      }
-      page.ratio = devicePixelRatio;
-      _page_resized(...size);
+    // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
+    const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
+    const observer = new ResizeObserver(([{contentRect, devicePixelContentBoxSize: [told] = [{}]}]) => {
+      const {width, height} = contentRect;
+      // On fewer pixels than the smallest scale needs, what is shown is shrunk.
+      const shrunk = Math.max(1, 480 / (width * devicePixelRatio), 336 / (height * devicePixelRatio));
+      page.ratio = devicePixelRatio * shrunk;
+      _page_resized(exact(told.inlineSize, width * page.ratio), exact(told.blockSize, height * page.ratio));
     });
-    observer.observe(main, {box: 'device-pixel-content-box'});
-    observer.observe(document.documentElement); // another zoom alone
+    const observe = () => { // anew at another zoom, and on another screen
+      observer.disconnect();
+      observer.observe(main, {box: 'device-pixel-content-box'});
+      matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', observe, {once: true});
+    };
+    observe();
   },
 
   // Elements.
