@@ -123,6 +123,26 @@ TEST_F(CaptionsTest, ThatAreAlikeInOneContainerHaveOneSize) {
     EXPECT_EQ(fonts.str(), "first 8.25 100%; second 8.25 100%; ");
 }
 
+TEST(TextSizeTest, AsManyWordsGoIntoALineAsFit) {
+    using Case = std::tuple<std::string, std::optional<int>, int, int>;
+    for (const auto& [text, width, widest, lines] :
+         {Case{"", 3, 0, 1}, Case{"aa bb cc", {}, 8, 1}, Case{"aa bb cc", 8, 8, 1}, Case{"aa bb cc", 7, 5, 2},
+          Case{"aa bb cc", 4, 2, 3}, Case{"aa bbbbbb c", 4, 6, 3}}) {
+        const auto letters = [](const std::string& piece) { return static_cast<double>(piece.size()); };
+        const TextSize size = textSize(text, letters, 10, width);
+        EXPECT_EQ(std::tuple(size.width, size.height, size.lineSpacing), std::tuple(widest, 10 * lines, 10)) << text;
+    }
+}
+
+TEST(ChoiceTest, LiesBesideTheOthersOfItsContainer) {
+    const MemoryDesktop desktop(application());
+    const frmTumbleOptions options([](auto...) {});
+    EXPECT_EQ(options.optCardMedium.beside(1), &options.optCardNormal);
+    EXPECT_EQ(options.optCardMedium.beside(-1), &options.optCardSmall);
+    EXPECT_EQ(options.optCardSmall.beside(-1), nullptr);
+    EXPECT_EQ(options.optCardNormal.beside(1), nullptr);
+}
+
 TEST(KeysTest, AHeldKeyActsOnce) {
     constexpr int space = 32;
     constexpr int other = 33;
@@ -142,13 +162,16 @@ TEST(KeysTest, PressTheButtonOfTheFormThatHasThem) {
     Form form("", 6000, 6000);
     Frame frame(form, "frame", "", {}, 0, {});
     std::string pressed;
-    const CommandButton none(form, "none", "", {}, 0, [&] { pressed += "none "; });
-    const CommandButton inFrame(frame, "inFrame", "", {}, 0, [&] { pressed += "in frame "; }, {Key::Esc, Key::Enter});
-    const CommandButton onForm(form, "onForm", "", {}, 0, [&] { pressed += "on form "; }, {Key::F11});
+    const CommandButton none(form, "none", "&none", {}, 0, [&] { pressed += "none "; });
+    const CommandButton inFrame(frame, "inFrame", "in &frame", {}, 0, [&] { pressed += "in frame "; },
+                                {Key::Esc, Key::Enter});
+    const CommandButton onForm(form, "onForm", "on form", {}, 0, [&] { pressed += "on form "; }, {Key::F11});
     for (const Key key : {Key::Enter, Key::Esc, Key::F11}) {
         form.press(key);
     }
-    EXPECT_EQ(pressed, "in frame in frame on form ");
+    EXPECT_TRUE(form.pressAccessKey('N') && form.pressAccessKey('F'));
+    EXPECT_FALSE(form.pressAccessKey('O'));
+    EXPECT_EQ(pressed, "in frame in frame on form none in frame ");
 }
 
 } // namespace

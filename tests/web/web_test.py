@@ -59,7 +59,6 @@ class Page:
             options.add_argument(switch)
         options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
         self.browser = webdriver.Chrome(options=options, service=Service("/usr/bin/chromedriver"))
-        self.browser.set_script_timeout(60)
         self.address = address
         self.down = 0
         self.at = (0, 0)
@@ -71,6 +70,7 @@ class Page:
     def screen(self, width=1000, height=700):
         """The size of the page, in its own pixels."""
         self.tell("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=0, mobile=False)
+        self.browser.execute_async_script("requestAnimationFrame(() => requestAnimationFrame(arguments[0]))")
 
     def tell(self, command, **values):
         return self.browser.execute_cdp_cmd(command, values)
@@ -313,6 +313,25 @@ class WebTest(unittest.TestCase):
         page.down = 0
         wait("the label", lambda: page.mouse(FREE) or page.label() == "None")
         self.assertEqual(page.look(BELOW), BLANK)
+
+    def test_deal_goes_on_while_the_page_is_hidden(self):
+        page = self.page
+        page.open()
+        page.browser.execute_script("""
+            const watched = {subtree: true, childList: true, attributes: true};
+            new MutationObserver(() => {
+                if (document.querySelector('[data-name=picTable]') && !document.querySelector('.busy')) {
+                    document.title = `hidden: ${document.hidden}`;
+                }
+            }).observe(document.querySelector('main'), watched);
+            document.addEventListener('visibilitychange', () => document.querySelector('[data-name=cmdPlay]').click(),
+                                      {once: true});""")
+        table = page.browser.current_window_handle
+        page.browser.switch_to.new_window("tab")
+        wait("the deal", lambda: any(target["title"] == "hidden: true"
+                                     for target in page.tell("Target.getTargets")["targetInfos"]))
+        page.browser.close()
+        page.browser.switch_to.window(table)
 
     def test_fingers_drag_and_flip(self):
         page = self.page
