@@ -23,14 +23,10 @@ const page = {
     return page.last;
   },
   css: (pixels) => `${pixels / page.ratio}px`,
-  colour: (bgr) => bgr < 0 ? page.ground : `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
-  context: (canvas) => page.elements[canvas].getContext('2d'),
-  exact(canvas) {
-    const context = page.context(canvas);
-    context.resetTransform();
-    context.imageSmoothingEnabled = false;
-    return context;
-  },
+  colours: {},
+  colour: (bgr) => bgr < 0 ? page.ground
+    : page.colours[bgr] ??= `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
+  context: (canvas) => page.elements[canvas].context,
   shiftKeys: (event) => event.shiftKey + 2 * event.ctrlKey + 4 * event.altKey + 8 * event.metaKey,
 
   key(event) {
@@ -209,25 +205,29 @@ const page = {
   canvasMake() {
     return page.number(document.createElement('canvas'));
   },
+  // Between two calls nothing is transformed.
   canvasSize(canvas, width, height) {
     const element = page.elements[canvas];
     [element.width, element.height] = [width, height];
-    page.context(canvas).save();
+    element.context = element.getContext('2d');
+    element.context.imageSmoothingEnabled = false;
+    element.context.save();
   },
   canvasClip(canvas, left, top, width, height) {
-    page.context(canvas).restore();
-    page.context(canvas).save();
-    const context = page.exact(canvas);
+    const context = page.context(canvas);
+    context.restore();
+    context.save();
     context.beginPath();
     context.rect(left, top, width, height);
     context.clip();
   },
   canvasFill(canvas, left, top, width, height, colour) {
-    const context = page.exact(canvas);
+    const context = page.context(canvas);
     context.fillStyle = page.colour(colour);
     context.fillRect(left, top, width, height);
   },
-  // Takes up a path: for each step seven numbers of eight bytes, of which the first is a whole one of four.
+  // Takes up a path to fill or to stroke, and leaves it transformed: for each step seven numbers of eight bytes, of
+  // which the first is a whole one of four.
   canvasPath(canvas, transform, steps, count) {
     const context = page.context(canvas);
     context.setTransform(...HEAPF64.subarray(transform >> 3, (transform >> 3) + 6));
@@ -246,24 +246,29 @@ const page = {
     const context = page.context(canvas);
     context.fillStyle = page.colour(colour);
     context.fill();
+    context.resetTransform();
   },
   canvasFillTexture(canvas, texture, x, y) {
-    const context = page.exact(canvas);
-    context.translate(x, y);
+    const context = page.context(canvas);
+    context.setTransform(1, 0, 0, 1, x, y);
     context.fillStyle = context.createPattern(page.elements[texture], 'repeat');
     context.fill();
+    context.resetTransform();
   },
   canvasStroke(canvas, colour, width, round) {
     const context = page.context(canvas);
     context.strokeStyle = page.colour(colour);
     context.lineWidth = width;
-    [context.lineCap, context.lineJoin] = round ? ['round', 'round'] : ['butt', 'miter'];
+    context.lineCap = round ? 'round' : 'butt';
+    context.lineJoin = round ? 'round' : 'miter';
     context.stroke();
+    context.resetTransform();
   },
   canvasDraw(canvas, from, left, top, width, height, x, y, mirrored, upsideDown) {
-    const context = page.exact(canvas);
-    context.translate(x + (mirrored ? width : 0), y + (upsideDown ? height : 0));
-    context.scale(mirrored ? -1 : 1, upsideDown ? -1 : 1);
+    const context = page.context(canvas);
+    context.setTransform(mirrored ? -1 : 1, 0, 0, upsideDown ? -1 : 1, x + (mirrored ? width : 0),
+      y + (upsideDown ? height : 0));
     context.drawImage(page.elements[from], left, top, width, height, 0, 0, width, height);
+    context.resetTransform();
   },
 };
