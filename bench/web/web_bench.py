@@ -10,7 +10,7 @@ HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parents[1] / "tests/web"))
 from web_test import Page, Server, in_spread
 
-ROUNDS = 3
+ROUNDS = 21
 STEPS = 30
 # When the frame with the last control has been painted, in milliseconds since the navigation.
 PAINTED = """
