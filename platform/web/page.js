@@ -70,7 +70,8 @@ const page = {
   listen() {
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
     on(['keydown'], page.key);
-    on(['keydown', 'pointerdown'], ({key}) => document.body.classList.toggle('keys', !!key));
+    on(['keydown'], ({key}) => /^(Tab|Arrow)/.test(key) && document.body.classList.add('keys'));
+    on(['pointerdown'], () => document.body.classList.remove('keys'));
     on(['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], page.pointer);
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
     on(['mousedown'], (event) => event.target.closest?.('.surface') && event.preventDefault());
@@ -165,6 +166,7 @@ const page = {
   },
   show(number) {
     const element = page.elements[number];
+    document.body.classList.remove('keys');
     element.hidden = false;
     element.showModal?.();
     [...element.querySelectorAll('[tabindex]')].sort((one, other) => one.tabIndex - other.tabIndex)[0]?.focus();
