@@ -99,7 +99,7 @@ int FormView::build(PictureBox& box, int parent) {
     page_attribute(canvas, "role", "img");
     page_attribute(canvas, "aria-label", box.Caption().c_str());
     takeInput(box, &box, canvas);
-    surfaces_.push_back(std::make_unique<Surface>(box, canvas, page_add(parent, "div", "ring"), pictures_));
+    surfaces_.push_back(std::make_unique<Surface>(box, canvas, page_add(parent, "canvas", "ring"), pictures_));
     return canvas;
 }
 

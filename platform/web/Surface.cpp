@@ -18,12 +18,17 @@ constexpr std::array<Button, 3> mouseButtons{{{1, 1}, {4, 4}, {2, 2}}};
 constexpr int heldButtons = 7; // a browser sums the three up as the box's handlers do
 
 constexpr float startDragDistance = 10 * twipsPerPixel;
-constexpr int ringRadius = 8; // at scale 1
 
 } // namespace
 
 Surface::Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures)
-    : box_(&box), hand_(box), shown_(box.painting(), pictures), element_(canvas), canvas_(canvas), ring_(ring) {}
+    : box_(&box),
+      hand_(box),
+      shown_(box.painting(), pictures),
+      element_(canvas),
+      canvas_(canvas),
+      ringElement_(ring),
+      ringCanvas_(ring) {}
 
 void Surface::layOut(const Layout& layout) {
     place_ = layout.pixels(box_->place());
@@ -48,11 +53,12 @@ void Surface::showRing() {
         return;
     }
     shownRing_ = ring;
-    page_attribute(ring_, "class", !ring ? "ring" : ring->holds ? "ring shows holds" : "ring shows");
+    page_property(ringElement_, "hidden", !ring);
     if (ring) {
-        const int radius = static_cast<int>(ringRadius * scale_.factor());
-        page_place(ring_, place_.left + scale_.pixel(ring->at.x) - radius,
-                   place_.top + scale_.pixel(ring->at.y) - radius, 2 * radius + 1, 2 * radius + 1);
+        const PixelRect block = ringPixels(*ring, scale_);
+        ringCanvas_.resize(block.size());
+        paintRing(ringCanvas_, ring->holds, scale_);
+        page_place(ringElement_, place_.left + block.left, place_.top + block.top, block.width(), block.height());
     }
 }
 

@@ -26,7 +26,7 @@ enum class Touch { Down, Move, Up, Cancel };
 /// fingers and the keyboard's pointer to it.
 class Surface : private Pinned {
 public:
-    /// `ring` is the element that marks the keyboard's pointer.
+    /// `ring` is the canvas that marks the keyboard's pointer.
     Surface(PictureBox& box, int canvas, int ring, PictureCache& pictures);
 
     /// The element.
@@ -60,7 +60,8 @@ private:
     WebCanvas canvas_;
     PixelRect place_;
     PixelScale scale_{1};
-    int ring_;
+    int ringElement_;
+    WebCanvas ringCanvas_;
     std::optional<Ring> shownRing_;
 };
 
