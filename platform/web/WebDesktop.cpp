@@ -3,7 +3,7 @@
 #include "platform/web/Page.h"
 
 #include <algorithm>
-#include <cassert>
+#include <cstdlib>
 #include <utility>
 
 #include <emscripten.h>
@@ -39,7 +39,9 @@ void WebDesktop::handle(const std::function<void()>& report) {
 }
 
 void WebDesktop::suspend(void (*wait)()) {
-    assert(!suspended_);
+    if (suspended_) {
+        std::abort(); // there is one place for a stack
+    }
     everySurface(&Surface::show);
     suspended_ = true;
     wait();

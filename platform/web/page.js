@@ -31,7 +31,7 @@ const page = {
 
   key(event) {
     const name = event.key.length === 1 ? event.key.toLowerCase() : event.key;
-    const letter = event.altKey && /^Key.$/.test(event.code) ? event.code.charCodeAt(3) : 0;
+    const letter = event.altKey && !event.ctrlKey && /^Key.$/.test(event.code) ? event.code.charCodeAt(3) : 0;
     if (!_page_key(document.activeElement.number ?? 0, page.keys.indexOf(name), letter, page.shiftKeys(event),
         event.repeat)) {
       event.preventDefault();
@@ -60,7 +60,9 @@ const page = {
       _page_mouse(box.number, event.button, event.buttons, page.shiftKeys(event) & 7, ...at);
       return;
     }
-    clearTimeout(page.pressTime);
+    if (event.type !== 'pointermove') {
+      clearTimeout(page.pressTime);
+    }
     if (event.type === 'pointerdown') {
       page.pressTime = setTimeout(() => _page_longPress(box.number), 600);
     }
