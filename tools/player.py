@@ -153,22 +153,28 @@ class Screen:
         os.environ.update(self.environment)
         return atspi()
 
+    @contextlib.contextmanager
     def listen(self):
-        """A function that returns the names of all that has got the focus since, as a screen reader is told of it."""
+        """A function that returns the names of all that has got the focus since, as a screen reader is told of it.
+
+        While somebody listens, programs ask for leave to handle a key: one that is left by a key may not live to hear.
+        """
         from gi.repository import GLib
 
         heard = []
         listener = self.reader().EventListener.new(
             lambda event: event.detail1 and heard.append(event.source.get_name()))
-        listener.register("object:state-changed:focused")
-        self._started.callback(listener.deregister, "object:state-changed:focused")
 
         def names():
             while GLib.MainContext.default().iteration(False):
                 pass
             return heard
 
-        return names
+        listener.register("object:state-changed:focused")
+        try:
+            yield names
+        finally:
+            listener.deregister("object:state-changed:focused")
 
     def programs(self):
         reader = self.reader()

@@ -106,7 +106,7 @@ class WindowTest(unittest.TestCase):
         game.press("Play")
         game.in_front("Tumble")
         wait("the table", lambda: game.read("image") == ["Table"])
-        heard = self.screen.listen()
+        heard = self.enterContext(self.screen.listen())
         places = ((in_spread(0), "Two of Diamonds"), (in_spread(51), "Ace of Spades"), (FREE, "None"),
                   (CORNERS[3], "Pile (empty)"), (CORNERS[0], "Pile (empty)"), (in_spread(0), "Two of Diamonds"))
         for place, name in places:
@@ -155,7 +155,7 @@ class WindowTest(unittest.TestCase):
         self.leave(game)
 
     def test_default_game_is_won_by_keys_and_ear(self):
-        heard = self.screen.listen()
+        heard = self.enterContext(self.screen.listen())
         game = self.start_table()
         playable = {f"Two of {suit}" for suit in CORNER_KEYS}
 
