@@ -26,7 +26,7 @@ void Control::changed() {
     desktop().changed(*this);
 }
 
-PlainCaption::PlainCaption(const std::string& caption) : text(caption) {
+PlainCaption::PlainCaption(std::string caption) : text(std::move(caption)) {
     if (const auto mark = text.find('&'); mark != std::string::npos) {
         text.erase(mark, 1);
         accessKey = static_cast<char>(std::toupper(static_cast<unsigned char>(text[mark])));

@@ -85,7 +85,7 @@ private:
 
 /// A caption without the ampersand, and the letter that it marks, a capital; 0 when it marks none.
 struct PlainCaption {
-    explicit PlainCaption(const std::string& caption);
+    explicit PlainCaption(std::string caption);
 
     std::string text;
     char accessKey = 0;
