@@ -22,8 +22,10 @@ constexpr std::array<int, 3> channels(Colour colour) {
 
 /// How many twips one pixel of an unscaled screen is wide and high.
 inline constexpr float twipsPerPixel = 15;
-/// How many device pixels stand for each pixel of an unscaled screen, at the least; and so the widest pixel, in twips.
+/// How many device pixels stand for each pixel of an unscaled screen, at the least and at the most; and so the widest
+/// pixel, in twips.
 inline constexpr float leastFactor = 0.75F;
+inline constexpr float largestFactor = 16;
 inline constexpr float widestPixel = twipsPerPixel / leastFactor;
 
 /// A point in twips, origin at the top left, y downwards.

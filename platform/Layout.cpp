@@ -8,8 +8,7 @@ namespace tumble {
 
 namespace {
 
-constexpr double largestFactor = 16; // device pixels for each 15 twips
-constexpr float optionGap = 45;      // twips, as below
+constexpr float optionGap = 45; // twips, as below
 constexpr float mostToTheRight = 240;
 
 double unscaled(float twips) {
@@ -33,7 +32,7 @@ double FormSize::scaleToFit(double roomWidth, double roomHeight) const {
 }
 
 double showable(double scale, double ratio) {
-    return std::clamp(scale, static_cast<double>(leastFactor) / ratio, largestFactor / ratio);
+    return std::clamp(scale, static_cast<double>(leastFactor) / ratio, static_cast<double>(largestFactor) / ratio);
 }
 
 PixelRect Layout::pixels(const Place& place) const {

@@ -6,7 +6,9 @@
 namespace tumble {
 
 PixelScale::PixelScale(double factor)
-    : factor_(std::isnan(factor) ? 1 : std::clamp(factor, static_cast<double>(leastFactor), 16.0)) {}
+    : factor_(std::isnan(factor)
+                  ? 1
+                  : std::clamp(factor, static_cast<double>(leastFactor), static_cast<double>(largestFactor))) {}
 
 int PixelScale::pixel(float twips) const {
     constexpr double outermost = 1 << 20;

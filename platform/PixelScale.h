@@ -10,8 +10,8 @@ namespace tumble {
 /// How twips become device pixels and back: the one place where the two meet.
 class PixelScale {
 public:
-    /// Device pixels for each pixel of an unscaled screen (15 twips); values out of `leastFactor` to 16 are brought
-    /// inside, what is not a number counts as 1.
+    /// Device pixels for each pixel of an unscaled screen (15 twips); values out of `leastFactor` to `largestFactor`
+    /// are brought inside, what is not a number counts as 1.
     explicit PixelScale(double factor);
 
     double factor() const { return factor_; }
