@@ -143,4 +143,26 @@ void Slider::Value(int value) {
     change_();
 }
 
+void Slider::Slide(int value) {
+    if (takesInput()) {
+        Value(value);
+    }
+}
+
+std::optional<AnyControl> press(const AnyControl& focused, Key key) {
+    if (auto* const* slider = std::get_if<Slider*>(&focused)) {
+        const int by = steps(key, (*slider)->Max() - (*slider)->Min());
+        (*slider)->Slide((*slider)->Value() + by);
+        return by != 0 ? std::optional(focused) : std::nullopt;
+    }
+    auto* const* option = std::get_if<OptionButton*>(&focused);
+    const int by = option != nullptr ? steps(key, 0) : 0;
+    OptionButton* next = by != 0 ? (*option)->beside(by) : nullptr;
+    if (next != nullptr) {
+        next->Select();
+        return next;
+    }
+    return by != 0 ? std::optional(focused) : std::nullopt;
+}
+
 } // namespace tumble

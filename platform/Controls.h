@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -191,6 +192,8 @@ public:
     int Value() const { return value_; }
     /// Brought into the range; raises the change when the value becomes another.
     void Value(int value);
+    /// Likewise, as the player does: nothing happens while its form takes no input.
+    void Slide(int value);
 
 private:
     int min_;
@@ -198,5 +201,8 @@ private:
     int value_;
     Handler change_;
 };
+
+/// What a key does to the control that has the focus. The control that has it then; none for a key that means nothing.
+std::optional<AnyControl> press(const AnyControl& focused, Key key);
 
 } // namespace tumble

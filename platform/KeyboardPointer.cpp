@@ -12,52 +12,52 @@ constexpr std::int16_t rightButton = 2;
 constexpr float fewPixels = 4 * twipsPerPixel;
 
 /// One step along an axis for an arrow; for a key of a corner, one step along both; of the others, none.
-Point direction(PointerKey key) {
+Point direction(Key key) {
     switch (key) {
-    case PointerKey::Left:
+    case Key::Left:
         return {-1, 0};
-    case PointerKey::Up:
+    case Key::Up:
         return {0, -1};
-    case PointerKey::Right:
+    case Key::Right:
         return {1, 0};
-    case PointerKey::Down:
+    case Key::Down:
         return {0, 1};
-    case PointerKey::Home:
+    case Key::Home:
         return {-1, -1};
-    case PointerKey::PageUp:
+    case Key::PageUp:
         return {1, -1};
-    case PointerKey::End:
+    case Key::End:
         return {-1, 1};
-    case PointerKey::PageDown:
+    case Key::PageDown:
         return {1, 1};
     default:
         return {};
     }
 }
 
-bool isArrow(PointerKey key) {
+bool isArrow(Key key) {
     const auto [x, y] = direction(key);
     return (x == 0) != (y == 0);
 }
 
-bool isPointers(const PointerKeyPress& press) {
-    return !press.alt && !press.meta && (!press.control || (press.shift && isArrow(press.key))) &&
-           (press.key != PointerKey::F10 || press.shift);
+bool isPointers(const KeyPress& press) {
+    return press.key <= Key::F10 && !press.alt && !press.meta &&
+           (!press.control || (press.shift && isArrow(press.key))) && (press.key != Key::F10 || press.shift);
 }
 
-std::int16_t shiftKeys(const PointerKeyPress& press) {
+std::int16_t shiftKeys(const KeyPress& press) {
     return static_cast<std::int16_t>((press.shift ? 1 : 0) + (press.control ? 2 : 0));
 }
 
 } // namespace
 
-bool KeyboardPointer::key(const PointerKeyPress& press) {
+bool KeyboardPointer::key(const KeyPress& press) {
     if (!isPointers(press)) {
         return false;
     }
     const bool moves = direction(press.key) != Point();
     const bool mouseHolds = hand_.holds() && !bySpace_;
-    if (!hand_.takesInput() || mouseHolds || (press.repeated && !moves)) {
+    if (!hand_.takesInput() || mouseHolds || (press.repeated && actsOnce(press.key))) {
         return true;
     }
     const std::int16_t Shift = shiftKeys(press);
@@ -68,7 +68,7 @@ bool KeyboardPointer::key(const PointerKeyPress& press) {
         if (const Point to = goal(press); to != *at_) {
             moveTo(to, Shift);
         }
-    } else if (press.key != PointerKey::Space) {
+    } else if (press.key != Key::Space) {
         click(Shift);
     } else if (holds()) {
         letGo(Shift);
@@ -113,7 +113,7 @@ std::vector<Point> KeyboardPointer::stopsNow() const {
     return stops(hand_.box()->painting(), part(), ring());
 }
 
-Point KeyboardPointer::goal(const PointerKeyPress& press) const {
+Point KeyboardPointer::goal(const KeyPress& press) const {
     const auto [x, y] = direction(press.key);
     const Rect in = part();
     if (!isArrow(press.key)) {

@@ -1,24 +1,13 @@
 #pragma once
 
 #include "platform/Hand.h"
+#include "platform/Keys.h"
 #include "platform/Stops.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace tumble {
-
-/// The keys that the keyboard's pointer knows. Space and F by the letter, the others wherever they lie.
-enum class PointerKey { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10 };
-
-struct PointerKeyPress {
-    PointerKey key;
-    bool shift = false;
-    bool control = false;
-    bool alt = false;
-    bool meta = false;
-    bool repeated = false; // by the keyboard, as the key is held
-};
 
 /// The keyboard's pointer over a picture box, of which the box is told as of the mouse. While the box takes no
 /// input, keys and the mouse do nothing; while the mouse holds a button, keys do nothing.
@@ -35,7 +24,7 @@ public:
     explicit KeyboardPointer(Hand& hand) : hand_(hand) {}
 
     /// Whether the key, with those held with it, is one of the pointer's.
-    bool key(const PointerKeyPress& press);
+    bool key(const KeyPress& press);
 
     // What the mouse does; as for a hand. A press releases what Space holds first.
     void press(std::int16_t Button, std::int16_t Shift, Point at);
@@ -49,7 +38,7 @@ private:
     bool holds() const { return bySpace_ && hand_.holds(); }
     Rect part() const;
     std::vector<Point> stopsNow() const;
-    Point goal(const PointerKeyPress& press) const;
+    Point goal(const KeyPress& press) const;
     void show();
     void moveTo(Point at, std::int16_t Shift);
     void click(std::int16_t Shift);

@@ -5,8 +5,27 @@
 
 namespace tumble {
 
-/// The keys that mean the same wherever the focus is.
-enum class Key { Enter, Esc, F1, F11 };
+/// The keys that mean something: those of the keyboard's pointer, of which the first eight do the same again as the
+/// keyboard repeats them, and those that mean the same wherever the focus is. Space and F by the letter, the others
+/// wherever they lie.
+enum class Key { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10, Enter, Esc, F1, F11 };
+
+struct KeyPress {
+    Key key;
+    bool shift = false;
+    bool control = false;
+    bool alt = false;
+    bool meta = false;
+    bool repeated = false; // by the keyboard, as the key is held
+};
+
+/// Whether the key acts once, however long it is held.
+constexpr bool actsOnce(Key key) {
+    return key >= Key::Space;
+}
+
+/// How far a key leads in a row of so many values or choices: back if negative; 0 for those that lead nowhere.
+int steps(Key key, int count);
 
 /// Tells a press from what the keyboard repeats while a key is held, for all windows of a desktop: another may have
 /// come up meanwhile. A repetition is a release and a press at the same instant, which not every toolkit sees.

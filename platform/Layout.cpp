@@ -10,6 +10,7 @@ namespace {
 
 constexpr float optionGap = 45; // twips, as below
 constexpr float mostToTheRight = 240;
+constexpr double mostOfWindow = 0.9; // for a dialog and its frame
 
 double unscaled(float twips) {
     return static_cast<double>(twips) / static_cast<double>(twipsPerPixel);
@@ -51,6 +52,11 @@ Layout layoutOf(const FormSize& form, PixelSize window, double ratio) {
     const int left = rounded((window.width - width) / 2.0);
     const int top = rounded((window.height - height) / 2.0);
     return {.scale = scale, .content = form.at(scale).at({left, top})};
+}
+
+Layout layoutOver(const FormSize& form, PixelSize window, double scaleBelow) {
+    const double scale = std::min(scaleBelow, mostOfWindow * form.scaleToFit(window.width, window.height));
+    return {.scale = scale, .content = form.at(scale).at({})};
 }
 
 Place roomOf(const Control& control) {

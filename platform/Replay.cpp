@@ -55,16 +55,22 @@ struct ItemPainter {
     }
 
     void operator()(const CircleOperation& circle) const {
-        const PixelRect touched = reach(circle, scale).intersected(shown.visible);
+        const PixelRect whole = reach(circle, scale);
+        const PixelRect touched = whole.intersected(shown.visible);
         if (touched.empty()) {
             return;
         }
         Path path;
         path.addCircle({scale.pixel(circle.centre.x) + 0.5, scale.pixel(circle.centre.y) + 0.5},
                        scale.factor() * static_cast<double>(circle.radius) / static_cast<double>(twipsPerPixel));
-        canvas.clip(touched);
+        const bool cut = touched != whole;
+        if (cut) {
+            canvas.clip(touched);
+        }
         canvas.stroke(path, {}, {circle.colour, static_cast<double>(scale.pen())});
-        canvas.clip(canvas.bounds());
+        if (cut) {
+            canvas.clip(canvas.bounds());
+        }
     }
 
 private:

@@ -135,7 +135,7 @@ private:
     void key() {
         const unsigned key = next() % 12;
         const unsigned with = next();
-        table_.pointer.key({.key = static_cast<PointerKey>(key),
+        table_.pointer.key({.key = static_cast<Key>(key),
                             .shift = with % 4 == 3,
                             .control = with % 8 == 7,
                             .alt = with >= 250,

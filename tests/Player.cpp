@@ -59,13 +59,13 @@ private:
 /// Goes by the key of a corner, by arrows as long as they bring it nearer, and by single steps in the end.
 class KeyHands : public Hands {
 public:
-    explicit KeyHands(Table& table) : table_(table) { key(PointerKey::Space); }
+    explicit KeyHands(Table& table) : table_(table) { key(Key::Space); }
 
     void move(Point to) override {
         const bool left = to.x < field.right / 2;
         const bool top = to.y < field.bottom / 2;
         if (way({left ? field.left : field.right, top ? field.top : field.bottom}, to) < way(at(), to)) {
-            key(left ? top ? PointerKey::Home : PointerKey::End : top ? PointerKey::PageUp : PointerKey::PageDown);
+            key(left ? top ? Key::Home : Key::End : top ? Key::PageUp : Key::PageDown);
         }
         for (float before = 1e6F; way(at(), to) < before && !there(to);) {
             before = way(at(), to);
@@ -82,7 +82,7 @@ public:
     }
     void press(Point at) override {
         move(at);
-        key(PointerKey::Space);
+        key(Key::Space);
     }
     void release(Point at) override { press(at); }
     std::vector<Point> everywhere() const override { return stops(table_.picture().painting(), field); }
@@ -91,9 +91,9 @@ private:
     static float way(Point from, Point to) { return std::hypot(to.x - from.x, to.y - from.y); }
     Point at() const { return table_.pointer.ring()->at; }
     bool there(Point to) const { return way(at(), to) < 2; }
-    PointerKey across(Point to) const { return to.x < at().x ? PointerKey::Left : PointerKey::Right; }
-    PointerKey along(Point to) const { return to.y < at().y ? PointerKey::Up : PointerKey::Down; }
-    void key(PointerKey key, float step = 0) {
+    Key across(Point to) const { return to.x < at().x ? Key::Left : Key::Right; }
+    Key along(Point to) const { return to.y < at().y ? Key::Up : Key::Down; }
+    void key(Key key, float step = 0) {
         require(table_.pointer.key({.key = key, .shift = step != 0, .control = step == 15}), "no key of the pointer");
         require(++keys_ < 50000, "no way");
     }

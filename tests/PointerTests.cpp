@@ -173,7 +173,7 @@ private:
                                                     "End",  "PageDown", "Space", "F",    "Menu", "F10"};
         const auto name = std::find(names.begin(), names.end(), word.substr(word.rfind('+') + 1));
         const auto with = [&](const char* prefix) { return word.find(prefix) != std::string::npos; };
-        return pointer_.key({.key = static_cast<PointerKey>(name - names.begin()),
+        return pointer_.key({.key = static_cast<Key>(name - names.begin()),
                              .shift = with("Shift+"),
                              .control = with("Ctrl+"),
                              .alt = with("Alt+"),

@@ -134,13 +134,28 @@ TEST(TextSizeTest, AsManyWordsGoIntoALineAsFit) {
     }
 }
 
-TEST(ChoiceTest, LiesBesideTheOthersOfItsContainer) {
+TEST(KeysTest, LeadFromChoiceToChoiceAndFromValueToValue) {
     const MemoryDesktop desktop(application());
-    const frmTumbleOptions options([](auto...) {});
-    EXPECT_EQ(options.optCardMedium.beside(1), &options.optCardNormal);
-    EXPECT_EQ(options.optCardMedium.beside(-1), &options.optCardSmall);
-    EXPECT_EQ(options.optCardSmall.beside(-1), nullptr);
-    EXPECT_EQ(options.optCardNormal.beside(1), nullptr);
+    frmTumbleOptions options([](auto...) {});
+    OptionButton* focused = &options.optCardNormal;
+    for (const auto& [key, choice] : {std::pair(Key::Up, &options.optCardMedium),
+                                      {Key::Left, &options.optCardSmall},
+                                      {Key::Up, &options.optCardSmall},
+                                      {Key::Down, &options.optCardMedium},
+                                      {Key::Right, &options.optCardNormal},
+                                      {Key::Down, &options.optCardNormal}}) {
+        EXPECT_EQ(press(focused, key), AnyControl(choice));
+        EXPECT_TRUE(choice->Value());
+        focused = choice;
+    }
+    Slider& slider = options.sldBackDesign;
+    for (const auto& [key, value] :
+         {std::pair(Key::Down, 2), {Key::End, 4}, {Key::Right, 4}, {Key::Up, 3}, {Key::Home, 1}, {Key::PageUp, 1}}) {
+        EXPECT_EQ(press(&slider, key), AnyControl(&slider));
+        EXPECT_EQ(slider.Value(), value);
+    }
+    EXPECT_EQ(press(&slider, Key::F), std::nullopt);
+    EXPECT_EQ(press(&options.cmdPlay, Key::Down), std::nullopt);
 }
 
 TEST(KeysTest, AHeldKeyActsOnce) {

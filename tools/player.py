@@ -1,7 +1,8 @@
 """Plays the real program: a virtual screen with a window manager, and a player with mouse, keyboard and eyes.
 
-Nothing of the program is linked or replaced. What it shows is read off the screen, or through the accessibility bus as
-a screen reader does. The player waits until something holds, never for a time.
+Of keys the browser's names are used; buttons of the mouse are pressed by "+left" and "+right", released by "-left" and
+"-right". Nothing of the program is linked or replaced. What it shows is read off the screen, or through the
+accessibility bus as a screen reader does. The player waits until something holds, never for a time.
 """
 
 import contextlib
@@ -87,6 +88,36 @@ def stop(process):
     except subprocess.TimeoutExpired:
         process.kill()
         process.wait()
+
+
+class Player:
+    """What is done in the same way wherever the game runs. Places are in twips of the table."""
+
+    def wait_for_label(self, name):
+        wait(f"the label {name}", lambda: self.label() == name)
+
+    def lift(self, place, to):
+        """From a place to another, the button still held; waits until the card is there. Its inside."""
+        ground = self.look(to)
+        self.mouse(place, "+left", to)
+        wait("the card", lambda: self.look(to) != ground)
+        self.label()  # answered when the painting is done
+        return self.look(to)
+
+    def strike(self, *keys):
+        for key in keys:
+            self.key(key)
+
+    def drag(self, place, to):
+        self.mouse(place, "+left", to, "-left")
+
+    def to_corner(self, card, place):
+        """Drags a card, by its number in the natural order, to the corner of its suit."""
+        self.drag(place, CORNERS[card % 4])
+
+    def play_spread(self, cards):
+        for card in cards:
+            self.to_corner(card, in_spread(card))
 
 
 class Screen:
@@ -187,8 +218,11 @@ def children(seen):
     return [child for i in range(seen.get_child_count()) if (child := seen.get_child_at_index(i))]
 
 
-class Game:
-    """The running program, at its first window. Places are in twips, of the window in front or of the table on it."""
+class Game(Player):
+    """The running program, at its first window."""
+
+    KEYS = {"Enter": "Return", " ": "space", "PageUp": "Prior", "PageDown": "Next"}
+    BUTTONS = {"+left": ("mousedown", 1), "-left": ("mouseup", 1), "+right": ("mousedown", 3), "-right": ("mouseup", 3)}
 
     def __init__(self, screen, *command):
         self.screen = screen
@@ -212,10 +246,10 @@ class Game:
         self.left, self.top = (int(line.split()[-1]) for line in lines if "Absolute" in line)
 
     def key(self, key):
-        self.screen.xdotool("key", key)
+        self.screen.xdotool("key", self.KEYS.get(key, key.removeprefix("Arrow")))
 
     def pixel(self, x, y):
-        """Where a place of the window lies on the screen."""
+        """Where a place of the window, in twips, lies on the screen."""
         return [int(origin + twips * self.factor / 15 + 0.5) for origin, twips in ((self.left, x), (self.top, y))]
 
     def on_table(self, x, y):
@@ -225,35 +259,23 @@ class Game:
         self.screen.xdotool("mousemove", *self.pixel(x, y), "click", 1)
 
     def mouse(self, *steps):
-        """Places on the table to move to, and what to do there, such as "mousedown 1"."""
-        commands = [["mousemove", *self.on_table(*step)] if isinstance(step, tuple) else step.split() for step in steps]
-        self.screen.xdotool(*sum(commands, []))
+        """Places on the table to move to, and what to do there with a button."""
+        commands = [self.BUTTONS.get(step) or ("mousemove", *self.on_table(*step)) for step in steps]
+        self.screen.xdotool(*sum(commands, ()))
 
-    def wait_for_label(self, name):
-        wait(f"the label {name}", lambda: self.read("label") == ["Current Card:", name])
+    def vanish(self):
+        """Goes from the screen and comes back; the button is let go meanwhile."""
+        self.screen.xdotool("windowminimize", self.window)
+        wait("the bare screen", lambda: self.screen.xdotool("getactivewindow") != self.window)
+        self.mouse("-left")
+        self.screen.xdotool("windowmap", self.window, "windowactivate", self.window)
+
+    def label(self):
+        return " ".join(self.read("label")[1:])
 
     def look(self, place):
         """What shows right of and below a place on the table: the inside of a card that is held there."""
         return self.screen.photograph(part=(60, 90, *self.on_table(*place)))
-
-    def lift(self, place, to):
-        """From a place on the table to another, the button still held; waits until the card is there. Its inside."""
-        ground = self.look(to)
-        self.mouse(place, "mousedown 1", to)
-        wait("the card", lambda: self.look(to) != ground)
-        self.read("label")  # answered when the painting is done
-        return self.look(to)
-
-    def drag(self, place, to):
-        self.mouse(place, "mousedown 1", to, "mouseup 1")
-
-    def to_corner(self, card, place):
-        """Drags a card, by its number in the natural order, to the corner of its suit."""
-        self.drag(place, CORNERS[card % 4])
-
-    def play_spread(self, cards):
-        for card in cards:
-            self.to_corner(card, in_spread(card))
 
     def read(self, role):
         """The names of all that has the role in the window in front; nothing while the program has no answer."""

@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 #include <variant>
 
 namespace tumble {
@@ -75,13 +76,12 @@ ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame
 FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon,
                        PictureCache& pictures)
     : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
-      form_(&form),
       icon_(icon),
       pictures_(pictures),
       formSize_(form.Width(), form.Height()),
-      layout_{.scale = before.scale},
-      frame_(before.frame),
-      captions_(measure) {
+      shown_(form, Captions(measure)),
+      frame_(before.frame) {
+    shown_.layOut({.scale = before.scale});
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
     if (before.screen != nullptr) {
@@ -128,13 +128,6 @@ QRect FormWindow::openingPlace() const {
     return toQRect(room().place(content, room().inside()));
 }
 
-void FormWindow::changed(const Control& control) {
-    if (const auto update = updates_.find(&control); update != updates_.end()) {
-        update->second();
-    }
-    captions_.fit(control, scale());
-}
-
 SurfaceWidget* FormWindow::surface(const PictureBox& box) const {
     return surfaces_.at(&box);
 }
@@ -152,14 +145,12 @@ void FormWindow::inputIsBack() {
 }
 
 void FormWindow::retire() {
-    form_ = nullptr;
+    shown_.retire();
     for (const auto& [box, widget] : surfaces_) {
         widget->retire();
     }
     surfaces_.clear();
-    updates_.clear();
-    captions_.clear();
-    for (const auto& [widget, room] : placed_) {
+    for (const auto& [index, widget] : byTabIndex_) {
         disconnect(widget, nullptr, this, nullptr);
     }
     hide();
@@ -168,8 +159,8 @@ void FormWindow::retire() {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (form_ != nullptr && desktop().takesInput(*form_)) {
-        form_->Form_Close();
+    if (Form* form = shown_.form(); form != nullptr && desktop().takesInput(*form)) {
+        form->Form_Close();
     }
 }
 
@@ -203,8 +194,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const std::optional<Key> key = keyOf(*event);
     if (key == Key::F11 && !isModal()) {
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-    } else if (key && form_ != nullptr) {
-        form_->press(*key);
+    } else if (key && shown_.form() != nullptr) {
+        shown_.form()->press(*key);
     }
 }
 
@@ -214,7 +205,6 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
         widget->setObjectName(QString::fromStdString(control->Name()));
         widget->setStyle(&style_);
         widget->installEventFilter(this);
-        placed_.push_back({widget, roomOf(*control)});
         byTabIndex_.emplace(control->TabIndex(), widget);
     };
     for (const AnyControl& control : container.controls()) {
@@ -224,8 +214,8 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
 
 QWidget* FormWindow::build(PictureBox& box, QWidget* parent) {
     auto* widget = new SurfaceWidget(box, pictures_, parent);
-    widget->setAccessibleName(QString::fromStdString(box.Caption()));
     surfaces_.emplace(&box, widget);
+    add(&box, widget, [&box, widget] { widget->setAccessibleName(QString::fromStdString(box.Caption())); });
     return widget;
 }
 
@@ -234,9 +224,9 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    captions_.add(
+    shown_.captions().add(
         label, captionStyle(label), [widget] { return toPixelSize(widget->size()); }, fontOf(widget));
-    updates_.emplace(&label, [&label, widget] {
+    add(&label, widget, [&label, widget] {
         widget->setText(QString::fromStdString(label.Caption()));
         relate(label, *widget);
     });
@@ -252,9 +242,9 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
         widget = new FormButton(parent);
     }
     widget->setDefault(button.pressedBy(Key::Enter));
-    captions_.add(
+    shown_.captions().add(
         button, captionStyle(button), [widget] { return toPixelSize(widget->size() - buttonMargin); }, fontOf(widget));
-    updates_.emplace(&button, [this, &button, widget] {
+    add(&button, widget, [this, &button, widget] {
         widget->setIconSize(QSize(buttonIconSize, buttonIconSize) * scale());
         widget->setText(QString::fromStdString(button.Caption()));
     });
@@ -264,9 +254,9 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
 
 QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     auto* widget = new WrappingRadioButton(parent);
-    captions_.add(
+    shown_.captions().add(
         option, captionStyle(option), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
-    updates_.emplace(&option, [&option, widget] {
+    add(&option, widget, [&option, widget] {
         widget->setText(QString::fromStdString(option.Caption()));
         widget->setChecked(option.Value());
         // Tab comes to the selected choice of a frame, the arrows go on from there.
@@ -283,9 +273,9 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
 
 QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
     auto* widget = new CaptionedFrame(parent);
-    captions_.add(
+    shown_.captions().add(
         frame, captionStyle(frame), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
-    updates_.emplace(&frame, [this, &frame, widget] {
+    add(&frame, widget, [this, &frame, widget] {
         widget->captionHeight(qRound(frameCaptionHeight * scale()));
         widget->setTitle(QString::fromStdString(frame.Caption()));
     });
@@ -300,43 +290,46 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     widget->setTickPosition(QSlider::TicksBothSides);
     widget->setTickInterval(1);
     widget->setPageStep(1);
-    widget->setAccessibleName(QString::fromStdString(slider.Caption()));
-    updates_.emplace(&slider, [&slider, widget] {
+    add(&slider, widget, [&slider, widget] {
+        widget->setAccessibleName(QString::fromStdString(slider.Caption()));
         widget->setRange(slider.Min(), slider.Max());
         widget->setValue(slider.Value());
     });
-    connect(widget, &QSlider::valueChanged, this,
-            [this, &slider](int value) { slider.takesInput() ? slider.Value(value) : changed(slider); });
+    connect(widget, &QSlider::valueChanged, this, [this, &slider](int value) {
+        slider.Slide(value);
+        changed(slider);
+    });
     return widget;
 }
 
 // Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
 void FormWindow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setClipRegion(QRegion(rect()) - toQRect(layout_.content).adjusted(-1, -1, 1, 1));
+    painter.setClipRegion(QRegion(rect()) - toQRect(shown_.layout().content).adjusted(-1, -1, 1, 1));
     painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
-    if (form_ != nullptr) {
+    if (shown_.form() != nullptr) {
         layOut();
     }
 }
 
 void FormWindow::layOut() {
-    layout_ = layoutOf(formSize_, toPixelSize(size()), pixelRatio(*this));
-    style_.scale(scale());
-    const QPoint corner(layout_.content.left, layout_.content.top);
-    for (const auto& [widget, room] : placed_) {
-        widget->setGeometry(toQRect(layout_.pixels(room)).translated(widget->parent() == this ? corner : QPoint()));
-    }
-    for (const auto& [control, update] : updates_) {
-        update();
-    }
-    captions_.fit(scale());
+    const Layout layout = layoutOf(formSize_, toPixelSize(size()), pixelRatio(*this));
+    style_.scale(layout.scale);
+    shown_.layOut(layout);
     for (const auto& [box, surface] : surfaces_) {
         surface->scale(scale());
     }
+}
+
+void FormWindow::add(AnyControl control, QWidget* widget, std::function<void()> update) {
+    const auto place = [this, widget](const PixelRect& room) {
+        const auto [left, top] = shown_.layout().content.corner();
+        widget->setGeometry(toQRect(room).translated(widget->parent() == this ? QPoint(left, top) : QPoint()));
+    };
+    shown_.add(control, place, std::move(update));
 }
 
 void FormWindow::setTabOrderByIndex() {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "platform/Captions.h"
-#include "platform/Form.h"
 #include "platform/PictureCache.h"
 #include "platform/ScreenRoom.h"
+#include "platform/ShownForm.h"
 #include "platform/qt/ScaledStyle.h"
 
 #include <QIcon>
@@ -14,8 +13,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace tumble {
 
@@ -46,7 +43,7 @@ public:
     FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon, PictureCache& pictures);
 
     /// The scale that the window's size gives.
-    double scale() const { return layout_.scale; }
+    double scale() const { return shown_.scale(); }
     WindowPlace place() const;
     /// What its screen has for it and for others with a frame like its own.
     ScreenRoom room() const { return roomOn(*screen(), frame_); }
@@ -54,7 +51,7 @@ public:
     QRect placeOver(QSize content) const;
 
     /// Shows a control's new state.
-    void changed(const Control& control);
+    void changed(const Control& control) { shown_.changed(control); }
     /// The widget of a picture box of the form.
     SurfaceWidget* surface(const PictureBox& box) const;
     /// Brings what was painted to the screen at once.
@@ -79,6 +76,7 @@ private:
     QWidget* build(OptionButton& option, QWidget* parent);
     QWidget* build(Frame& frame, QWidget* parent);
     QWidget* build(Slider& slider, QWidget* parent);
+    void add(AnyControl control, QWidget* widget, std::function<void()> update);
     void setTabOrderByIndex();
     void followScreen(QScreen* screen);
     void keepLeastSize();
@@ -86,22 +84,13 @@ private:
     void layOut();
     void learnFrame();
 
-    struct Placed {
-        QWidget* widget;
-        Place room; // in its container, twips
-    };
-
-    Form* form_; // null once retired
     QIcon icon_;
     PictureCache& pictures_;
     FormSize formSize_;
-    Layout layout_;
+    ShownForm shown_;
     std::optional<WindowFrame> frame_;
     ScaledStyle style_;
-    std::vector<Placed> placed_;
     std::map<const PictureBox*, SurfaceWidget*> surfaces_;
-    std::map<const Control*, std::function<void()>> updates_;
-    Captions captions_;
     std::multimap<int, QWidget*> byTabIndex_;
 };
 

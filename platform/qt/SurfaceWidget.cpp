@@ -1,6 +1,7 @@
 #include "platform/qt/SurfaceWidget.h"
 
 #include "platform/qt/Contrast.h"
+#include "platform/qt/KeyFilter.h"
 
 #include <QFocusFrame>
 #include <QGuiApplication>
@@ -62,37 +63,6 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
     const int control = keys.testFlag(Qt::ControlModifier) ? 2 : 0;
     const int alt = keys.testFlag(Qt::AltModifier) ? 4 : 0;
     return static_cast<std::int16_t>(shift + control + alt);
-}
-
-std::optional<PointerKey> pointerKeyOf(int key) {
-    switch (key) {
-    case Qt::Key_Left:
-        return PointerKey::Left;
-    case Qt::Key_Up:
-        return PointerKey::Up;
-    case Qt::Key_Right:
-        return PointerKey::Right;
-    case Qt::Key_Down:
-        return PointerKey::Down;
-    case Qt::Key_Home:
-        return PointerKey::Home;
-    case Qt::Key_PageUp:
-        return PointerKey::PageUp;
-    case Qt::Key_End:
-        return PointerKey::End;
-    case Qt::Key_PageDown:
-        return PointerKey::PageDown;
-    case Qt::Key_Space:
-        return PointerKey::Space;
-    case Qt::Key_F:
-        return PointerKey::F;
-    case Qt::Key_Menu:
-        return PointerKey::Menu;
-    case Qt::Key_F10:
-        return PointerKey::F10;
-    default:
-        return std::nullopt;
-    }
 }
 
 } // namespace
@@ -198,7 +168,7 @@ void SurfaceWidget::showRing() {
 }
 
 void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
-    const auto key = pointerKeyOf(event->key());
+    const auto key = keyOf(*event);
     const auto with = [event](Qt::KeyboardModifier held) { return event->modifiers().testFlag(held); };
     event->setAccepted(key && box_ != nullptr && box_->listens() &&
                        pointer_.key({.key = *key,

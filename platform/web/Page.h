@@ -9,7 +9,8 @@ extern "C" {
 /// From now on the page reports what happens.
 void page_listen();
 
-int page_add(int parent, const char* tag, const char* classes);
+/// Adds a template of index.html. The number is that of its first element; those that follow have the next ones.
+int page_add(int parent, const char* name);
 /// With all that is in it; a number that is gone already is nothing.
 void page_remove(int element);
 void page_attribute(int element, const char* name, const char* value);
@@ -17,12 +18,11 @@ void page_property(int element, const char* name, int value);
 void page_length(int element, const char* name, double pixels);
 void page_place(int element, int left, int top, int width, int height);
 void page_caption(int element, const char* text);
-void page_font(int element, double pixels, int stretch);
+void page_font(int element, double pixels, bool bold, int stretch);
 double page_textWidth(const char* text, double pixels, bool bold);
 void page_focus(int element);
-/// A dialog is modal. The first in the tab order has the focus.
+/// A dialog is modal, another window gives the page its name. Its first control has the focus.
 void page_show(int element);
-void page_title(const char* text);
 /// Says that the game is over and offers another.
 void page_over();
 
@@ -31,8 +31,6 @@ void page_over();
 void page_suspend();
 void page_frame();
 void page_resume();
-/// In milliseconds.
-double page_now();
 
 int page_canvasMake();
 void page_canvasSize(int canvas, int width, int height);

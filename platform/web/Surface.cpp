@@ -3,19 +3,15 @@
 #include "platform/web/Page.h"
 
 #include <array>
+#include <cstddef>
 
 namespace tumble {
 
 namespace {
 
-struct Button {
-    int bit; // in a browser's sum of buttons
-    std::int16_t code;
-};
-
-// By a browser's numbers: left, middle, right.
-constexpr std::array<Button, 3> mouseButtons{{{1, 1}, {4, 4}, {2, 2}}};
-constexpr int heldButtons = 7; // a browser sums the three up as the box's handlers do
+// By a browser's numbers: left, middle, right. In its sum of buttons each counts as its code.
+constexpr std::array<std::int16_t, 3> buttonCodes{1, 4, 2};
+constexpr int allButtons = 7;
 
 constexpr float startDragDistance = 10 * twipsPerPixel;
 
@@ -63,37 +59,26 @@ void Surface::showRing() {
 }
 
 // While one button is down, a browser tells of another as of a move.
-void Surface::mouse(const MouseReport& report) {
-    const auto& [button, buttons, Shift, x, y] = report;
-    if (button < 0) {
-        pointer_.move(static_cast<std::int16_t>(buttons & heldButtons), Shift, twips(x, y));
-    } else if (button < static_cast<int>(mouseButtons.size())) {
-        const auto& [bit, code] = mouseButtons.at(static_cast<std::size_t>(button));
-        if ((buttons & bit) != 0) {
-            pointer_.press(code, Shift, twips(x, y));
-        } else {
-            pointer_.release(code, Shift, twips(x, y));
-        }
+void Surface::pointer(const PointerReport& report) {
+    const auto& [event, touches, pointer, button, buttons, Shift, x, y] = report;
+    const Point at{scale_.twips(x), scale_.twips(y)};
+    if (event == PointerEvent::Cancel) {
+        letGo();
+    } else if (touches) {
+        event == PointerEvent::Down   ? finger_.touch(pointer, at, startDragDistance)
+        : event == PointerEvent::Move ? finger_.move(pointer, at)
+                                      : finger_.lift(pointer, at);
+    } else if (button < 0) {
+        pointer_.move(static_cast<std::int16_t>(buttons & allButtons), Shift, at);
+    } else if (button < static_cast<int>(buttonCodes.size())) {
+        const std::int16_t code = buttonCodes.at(static_cast<std::size_t>(button));
+        (buttons & code) != 0 ? pointer_.press(code, Shift, at) : pointer_.release(code, Shift, at);
     }
 }
 
-void Surface::touch(Touch touch, int finger, double x, double y) {
-    const Point at = twips(x, y);
-    switch (touch) {
-    case Touch::Down:
-        finger_.touch(finger, at, startDragDistance);
-        break;
-    case Touch::Move:
-        finger_.move(finger, at);
-        break;
-    case Touch::Up:
-        finger_.lift(finger, at);
-        break;
-    case Touch::Cancel:
-        finger_.cancel();
-        hand_.letGo();
-        break;
-    }
+void Surface::letGo() {
+    finger_.cancel();
+    hand_.letGo();
 }
 
 void Surface::retire() {

@@ -8,19 +8,23 @@
 #include "platform/web/WebCanvas.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace tumble {
 
-/// What a browser tells of a pointer: the button that changed, -1 for none, and those that are down after it.
-struct MouseReport {
-    int button;
-    int buttons;
-    std::int16_t Shift;
-    double x; // in pixels of the canvas
+enum class PointerEvent { Down, Move, Up, Cancel };
+
+/// What a browser tells of the mouse, a pen or a finger.
+struct PointerReport {
+    PointerEvent event;
+    bool touches;       // a finger does
+    int pointer;        // its number
+    int button;         // the one that changed; -1: none
+    int buttons;        // those that are down after it
+    std::int16_t Shift; // 1 Shift, 2 Ctrl, 4 Alt
+    double x;           // in pixels of the canvas
     double y;
 };
-
-enum class Touch { Down, Move, Up, Cancel };
 
 /// Shows a picture box's painting on a canvas element, in the exact pixels of the screen, and reports the mouse,
 /// fingers and the keyboard's pointer to it.
@@ -39,16 +43,14 @@ public:
     /// The window's colour is another.
     void recolour() { shown_.forget(); }
 
-    void mouse(const MouseReport& report);
-    void touch(Touch touch, int finger, double x, double y);
+    void pointer(const PointerReport& report);
     void longPress() { finger_.longPress(); }
-    bool key(const PointerKeyPress& press) { return pointer_.key(press); }
-    void letGo() { hand_.letGo(); }
+    bool key(const KeyPress& press) { return pointer_.key(press); }
+    void letGo();
     /// The box may be gone from now on.
     void retire();
 
 private:
-    Point twips(double x, double y) const { return {scale_.twips(x), scale_.twips(y)}; }
     void showRing();
 
     PictureBox* box_; // null once retired

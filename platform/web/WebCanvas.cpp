@@ -49,7 +49,7 @@ void WebCanvas::fill(const Path& path, const Transform& toPixels, Colour colour)
 
 void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
     takeUp(path, toPixels);
-    page_canvasFillTexture(element_, dynamic_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
+    page_canvasFillTexture(element_, static_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
 }
 
 void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
@@ -59,7 +59,7 @@ void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& p
 
 void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
     if (!block.empty()) {
-        page_canvasDraw(element_, dynamic_cast<const WebCanvas&>(image).element_, block.left, block.top, block.width(),
+        page_canvasDraw(element_, static_cast<const WebCanvas&>(image).element_, block.left, block.top, block.width(),
                         block.height(), at.x, at.y, turn == Turn::Mirrored || turn == Turn::Half,
                         turn == Turn::UpsideDown || turn == Turn::Half);
     }

@@ -3,6 +3,7 @@
 #include "platform/web/Page.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <utility>
 
@@ -50,7 +51,7 @@ void WebDesktop::suspend(void (*wait)()) {
 
 void WebDesktop::nextFrame() {
     suspend(page_frame);
-    lastFrame_ = page_now();
+    lastFrame_ = emscripten_get_now();
 }
 
 void WebDesktop::Show(Form& form, Modality modality) {
@@ -102,13 +103,11 @@ void WebDesktop::MousePointer(Form& form, Pointer pointer) {
 }
 
 void WebDesktop::MsgBox(const std::string& text, const std::string& caption) {
-    const int box = page_add(0, "dialog", "window message");
+    const int box = page_add(0, "message");
     page_attribute(box, "aria-label", caption.c_str());
-    page_caption(page_add(box, "h1", ""), caption.c_str());
-    page_caption(page_add(box, "p", ""), text.c_str());
-    boxButton_ = page_add(box, "button", "default");
-    page_caption(boxButton_, "OK");
-    page_property(boxButton_, "tabIndex", 1);
+    page_caption(box + 1, caption.c_str());
+    page_caption(box + 2, text.c_str());
+    boxButton_ = box + 3;
     page_length(box, "--unit", inFront() != nullptr ? inFront()->scale() : 1);
     page_show(box);
     {
@@ -125,7 +124,8 @@ void WebDesktop::changed(Control& control) {
 }
 
 void WebDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
-    if (box.container().form().MousePointer() == Pointer::Hourglass && page_now() - lastFrame_ >= leastFrame) {
+    if (box.container().form().MousePointer() == Pointer::Hourglass &&
+        emscripten_get_now() - lastFrame_ >= leastFrame) {
         nextFrame();
     }
 }
@@ -143,25 +143,30 @@ void WebDesktop::layOut(FormView& view) const {
     }
 }
 
-void WebDesktop::pressed(int element) {
-    if (element != 0 && element == boxButton_) {
+void WebDesktop::input(int element, int value) {
+    if (element == boxButton_) {
         boxButton_ = 0;
         page_resume();
     } else if (const FormView* view = inFront()) {
-        view->pressed(element);
+        view->input(element, value);
     }
 }
 
-bool WebDesktop::key(int focus, const KeyReport& report) {
+bool WebDesktop::key(int focus, const KeyPress& press) {
     if (boxButton_ == 0) {
         const FormView* view = inFront();
-        return view != nullptr && view->key(focus, report);
+        return view != nullptr && view->key(focus, press);
     }
-    const bool closes = report.key >= firstFormKey && static_cast<Key>(report.key - firstFormKey) != Key::F1;
-    if (closes && !report.repeated) {
-        pressed(boxButton_);
+    const bool closes = press.key == Key::Enter || press.key == Key::Esc;
+    if (closes && !press.repeated) {
+        input(boxButton_, 0);
     }
     return closes;
+}
+
+bool WebDesktop::accessKey(char letter) const {
+    const FormView* view = inFront();
+    return view != nullptr && view->form()->pressAccessKey(letter);
 }
 
 void WebDesktop::everySurface(const std::function<void(Surface&)>& action) const {
@@ -170,6 +175,12 @@ void WebDesktop::everySurface(const std::function<void(Surface&)>& action) const
             action(*surface);
         }
     }
+}
+
+Surface* WebDesktop::surface(int canvas) const {
+    Surface* found = nullptr;
+    everySurface([&](Surface& each) { found = each.canvas() == canvas ? &each : found; });
+    return found;
 }
 
 FormView* WebDesktop::inFront() const {
@@ -183,29 +194,19 @@ FormView* WebDesktop::viewOf(const Form& form) const {
     return view != views_.end() ? view->get() : nullptr;
 }
 
+} // namespace tumble
+
+// What the page reports. Elements are numbers, lengths are pixels of the screen.
+
+using namespace tumble;
+
 namespace {
 
 WebDesktop& page() {
     return static_cast<WebDesktop&>(desktop());
 }
 
-void handleAt(int canvas, const std::function<void(Surface&)>& report) {
-    page().handle([&] {
-        page().everySurface([&](Surface& surface) {
-            if (surface.canvas() == canvas) {
-                report(surface);
-            }
-        });
-    });
-}
-
 } // namespace
-
-} // namespace tumble
-
-// What the page reports. Elements are numbers, lengths are pixels of the screen.
-
-using namespace tumble;
 
 extern "C" {
 
@@ -215,42 +216,49 @@ EMSCRIPTEN_KEEPALIVE void page_resized(int width, int height) {
 
 EMSCRIPTEN_KEEPALIVE void page_recoloured() {
     page().everySurface(&Surface::recolour);
+    page().handle([] {});
 }
 
 EMSCRIPTEN_KEEPALIVE void page_shown() {
     page().handle([] { page().everySurface(&Surface::letGo); });
 }
 
-EMSCRIPTEN_KEEPALIVE void page_pressed(int element) {
-    page().handle([=] { page().pressed(element); });
+EMSCRIPTEN_KEEPALIVE void page_input(int element, int value) {
+    page().handle([=] { page().input(element, value); });
 }
 
-EMSCRIPTEN_KEEPALIVE void page_slid(int element, int value) {
+// Both give true for a key that the browser may have. Of a handler that is suspended the page gets false.
+
+EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, int shiftKeys, bool repeated) {
+    bool taken = repeated;
+    const auto held = [shiftKeys](int bit) { return (shiftKeys & bit) != 0; };
+    page().handle([&] {
+        taken = page().key(focus, {static_cast<Key>(key), held(1), held(2), held(4), held(8), repeated});
+    });
+    return !taken;
+}
+
+EMSCRIPTEN_KEEPALIVE bool page_accessKey(int letter) {
+    bool taken = false;
+    page().handle([&] { taken = page().accessKey(static_cast<char>(letter)); });
+    return !taken;
+}
+
+EMSCRIPTEN_KEEPALIVE void page_pointer(int canvas, int event, bool touches, int pointer, int button, int buttons,
+                                       int shiftKeys, double x, double y) {
     page().handle([=] {
-        if (const FormView* view = page().inFront()) {
-            view->slid(element, value);
+        if (Surface* surface = page().surface(canvas)) {
+            surface->pointer({static_cast<PointerEvent>(event), touches, pointer, button, buttons,
+                              static_cast<std::int16_t>(shiftKeys), x, y});
         }
     });
 }
 
-/// True for a key that the browser may have. Of a handler that is suspended the page gets false.
-EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, int letter, int shiftKeys, bool repeated) {
-    bool taken = repeated;
-    page().handle([&] { taken = page().key(focus, {key, static_cast<char>(letter), shiftKeys, repeated}); });
-    return !taken;
-}
-
-EMSCRIPTEN_KEEPALIVE void page_mouse(int canvas, int button, int buttons, int shiftKeys, double x, double y) {
-    handleAt(canvas, [=](Surface& surface) {
-        surface.mouse({button, buttons, static_cast<std::int16_t>(shiftKeys), x, y});
-    });
-}
-
-EMSCRIPTEN_KEEPALIVE void page_touch(int canvas, int touch, int finger, double x, double y) {
-    handleAt(canvas, [=](Surface& surface) { surface.touch(static_cast<Touch>(touch), finger, x, y); });
-}
-
 EMSCRIPTEN_KEEPALIVE void page_longPress(int canvas) {
-    handleAt(canvas, [](Surface& surface) { surface.longPress(); });
+    page().handle([=] {
+        if (Surface* surface = page().surface(canvas)) {
+            surface->longPress();
+        }
+    });
 }
 }

@@ -37,15 +37,18 @@ public:
     /// Handles a report, if the game is not over; what it leads to shows afterwards.
     void handle(const std::function<void()>& report);
     void resized(PixelSize page);
-    void pressed(int element);
-    /// False for a key that means nothing.
-    bool key(int focus, const KeyReport& report);
-    /// The form in front; null when none shows.
-    FormView* inFront() const;
+    void input(int element, int value);
+    // False for a key that means nothing.
+    bool key(int focus, const KeyPress& press);
+    bool accessKey(char letter) const;
     void everySurface(const std::function<void(Surface&)>& action) const;
+    /// Null for another element.
+    Surface* surface(int canvas) const;
 
 private:
     FormView* viewOf(const Form& form) const;
+    /// The form in front; null when none shows.
+    FormView* inFront() const;
     void layOut(FormView& view) const;
     /// Suspends the running handler for as long as the page waits.
     void suspend(void (*wait)());

@@ -1,7 +1,7 @@
 // What the program imports is the page's, which has run before it.
 [
   'listen', 'add', 'remove', 'attribute', 'property', 'length', 'place', 'caption', 'font', 'textWidth', 'focus',
-  'show', 'title', 'over', 'suspend', 'frame', 'resume', 'now', 'canvasMake', 'canvasSize', 'canvasClip',
+  'show', 'over', 'suspend', 'frame', 'resume', 'canvasMake', 'canvasSize', 'canvasClip',
   'canvasFill', 'canvasPath', 'canvasFillPath', 'canvasFillTexture', 'canvasStroke', 'canvasDraw',
 ].forEach((name) => {
   LibraryManager.library[`page_${name}`] = `=page.${name}`;

@@ -1,7 +1,7 @@
 // What the page does for the program, and what it reports to it: nothing is decided here. The program knows elements by
 // numbers, lengths in pixels of the screen.
-/* global _page_key, _page_longPress, _page_mouse, _page_pressed, _page_recoloured, _page_resized, _page_shown */
-/* global _page_slid, _page_touch, Asyncify, HEAP32, HEAPF64, UTF8ToString */
+/* global _page_accessKey, _page_input, _page_key, _page_longPress, _page_pointer, _page_recoloured, _page_resized */
+/* global _page_shown, Asyncify, HEAP32, HEAPF64, UTF8ToString */
 'use strict';
 
 const page = {
@@ -11,11 +11,13 @@ const page = {
   ground: '', // the window's colour
   ruler: null,
   held: null, // the picture box on which a button went down that is still held
+  began: null, // the one on which the last press or touch began; null: elsewhere
   pressTime: 0,
   wakeUp: null,
-  // The pointer's keys and the form's, in the order of the program's.
+  // In the order of the program's.
   keys: ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown', 'Home', 'PageUp', 'End', 'PageDown', ' ', 'f',
     'ContextMenu', 'F10', 'Enter', 'Escape', 'F1'],
+  pointerEvents: ['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], // likewise
 
   number(element) {
     element.number = ++page.last;
@@ -31,58 +33,59 @@ const page = {
 
   key(event) {
     const name = event.key.length === 1 ? event.key.toLowerCase() : event.key;
-    const letter = event.altKey && !event.ctrlKey && /^Key.$/.test(event.code) ? event.code.charCodeAt(3) : 0;
-    if (!_page_key(document.activeElement.number ?? 0, page.keys.indexOf(name), letter, page.shiftKeys(event),
-        event.repeat)) {
-      event.preventDefault();
-    }
+    const key = page.keys.indexOf(name);
+    const letter = event.altKey && !event.ctrlKey && /^Key.$/.test(event.code) && event.code.charCodeAt(3);
+    const unknown = letter ? !event.repeat && _page_accessKey(letter) : key < 0
+      || _page_key(document.activeElement.number ?? 0, key, page.shiftKeys(event), event.repeat);
+    unknown || event.preventDefault();
   },
-  // The document hears of a held button whatever has come up meanwhile; a browser may have dropped the capture.
+  // The document hears of a held button whatever has come up meanwhile, and beyond its edges.
   pointer(event) {
-    const touches = event.pointerType === 'touch';
+    const {type, pointerId, pointerType, button, buttons} = event;
+    const touches = pointerType === 'touch';
     const under = event.target.closest?.('.surface');
-    if (event.type === 'pointerdown' && under && !touches) {
+    if (type === 'pointerdown') {
+      page.began = under;
+      under?.focus({preventScroll: true});
+    }
+    if (type === 'pointerdown' && !touches) {
       page.held ??= under;
     }
     const box = touches ? under : page.held ?? under;
-    if (page.held?.isConnected && event.buttons && !page.held.hasPointerCapture(event.pointerId)) {
-      page.held.setPointerCapture(event.pointerId);
-    }
-    if (!event.buttons) {
+    if (!buttons) {
       page.held = null;
     }
     if (!box?.isConnected) {
       return;
     }
-    const place = box.getBoundingClientRect();
-    const at = [(event.clientX - place.left) * page.ratio, (event.clientY - place.top) * page.ratio];
-    if (!touches && event.type !== 'pointercancel') {
-      _page_mouse(box.number, event.button, event.buttons, page.shiftKeys(event) & 7, ...at);
-      return;
-    }
-    if (event.type !== 'pointermove') {
+    if (type !== 'pointermove') {
       clearTimeout(page.pressTime);
     }
-    if (event.type === 'pointerdown') {
-      page.pressTime = setTimeout(() => _page_longPress(box.number), 600);
+    if (type === 'pointerdown' && touches) {
+      page.pressTime = setTimeout(_page_longPress, 600, box.number);
     }
-    const events = ['pointerdown', 'pointermove', 'pointerup', 'pointercancel'];
-    _page_touch(box.number, events.indexOf(event.type), event.pointerId, ...at);
+    const {left, top} = box.getBoundingClientRect();
+    _page_pointer(box.number, page.pointerEvents.indexOf(type), touches, pointerId, button, buttons,
+      page.shiftKeys(event) & 7, (event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio);
   },
   listen() {
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
     on(['keydown'], page.key);
     on(['keydown'], ({key}) => /^(Tab|Arrow)/.test(key) && document.body.classList.add('keys'));
     on(['pointerdown'], () => document.body.classList.remove('keys'));
-    on(['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], page.pointer);
+    on(page.pointerEvents, page.pointer);
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
-    on(['mousedown'], (event) => event.target.closest?.('.surface') && event.preventDefault());
-    on(['click'], ({target}) => _page_pressed(target.closest?.('button')?.number ?? 0));
-    on(['change'], ({target}) => target.type === 'radio' && _page_pressed(target.number));
-    on(['input'], ({target}) => target.type === 'range' && _page_slid(target.number, target.valueAsNumber));
+    // What is no control takes no focus.
+    on(['mousedown'], (event) => event.target.closest?.('button, label, input, a') ?? event.preventDefault());
+    // A tap on the table is no click on a box that has come up under it.
+    on(['click', 'input'], ({target, detail}) => {
+      const element = !(detail && page.began) && target.closest?.('button, input');
+      page.began = null;
+      element && _page_input(element.number, element.valueAsNumber || 0);
+    });
     on(['cancel', 'close'], (event) => {
       event.preventDefault();
-      _page_key(0, page.keys.indexOf('Escape'), 0, 0, false);
+      _page_key(0, page.keys.indexOf('Escape'), 0, false);
     });
     on(['visibilitychange'], () => {
       page.held = null;
@@ -108,9 +111,10 @@ const page = {
       page.ratio = devicePixelRatio * shrunk;
       _page_resized(exact(told.inlineSize, width * page.ratio), exact(told.blockSize, height * page.ratio));
     });
+    const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
     const observe = () => { // anew at another zoom, and on another screen
       observer.disconnect();
-      observer.observe(main, {box: 'device-pixel-content-box'});
+      observer.observe(main, {box: tells ? 'device-pixel-content-box' : 'content-box'});
       matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', observe, {once: true});
     };
     observe();
@@ -118,11 +122,11 @@ const page = {
 
   // Elements.
 
-  add(parent, tag, classes) {
-    const element = document.createElement(UTF8ToString(tag));
-    element.className = UTF8ToString(classes);
-    page.elements[parent].append(element);
-    return page.number(element);
+  add(parent, name) {
+    const {content} = document.getElementById(UTF8ToString(name)).cloneNode(true);
+    const [first] = [...content.querySelectorAll('*')].map(page.number);
+    page.elements[parent].append(content);
+    return first;
   },
   remove(number) {
     const element = page.elements[number];
@@ -147,13 +151,20 @@ const page = {
   },
   // The ampersand marks the access key.
   caption(number, text) {
-    const [before, after] = UTF8ToString(text).replaceAll('\r', '').split('&');
+    const element = page.elements[number];
+    const caption = UTF8ToString(text).replaceAll('\r', '');
+    if (element.caption === caption) {
+      return; // a live region would say it again
+    }
+    element.caption = caption;
+    const [before, after] = caption.split('&');
     const mark = document.createElement('u');
     mark.textContent = after?.[0];
-    page.elements[number].replaceChildren(before, ...after ? [mark, after.slice(1)] : []);
+    element.replaceChildren(before, ...after ? [mark, after.slice(1)] : []);
   },
-  font(number, pixels, stretch) {
+  font(number, pixels, bold, stretch) {
     const {style} = page.elements[number];
+    style.fontWeight = bold ? 'bold' : '';
     style.fontSize = page.css(pixels);
     style.width = stretch < 100 ? `${10000 / stretch}%` : '';
     style.transform = stretch < 100 ? `scaleX(${stretch}%)` : '';
@@ -170,11 +181,12 @@ const page = {
     const element = page.elements[number];
     document.body.classList.remove('keys');
     element.hidden = false;
-    element.showModal?.();
-    [...element.querySelectorAll('[tabindex]')].sort((one, other) => one.tabIndex - other.tabIndex)[0]?.focus();
-  },
-  title(text) {
-    document.title = UTF8ToString(text);
+    if (element.showModal) {
+      element.showModal();
+    } else {
+      document.title = element.ariaLabel;
+    }
+    element.querySelector('.surface[tabindex], button').focus();
   },
   over() {
     document.body.classList.add('over');
@@ -199,9 +211,6 @@ const page = {
       requestAnimationFrame(() => setTimeout(once));
       setTimeout(once, document.hidden ? 0 : 100);
     });
-  },
-  now() {
-    return performance.now();
   },
 
   // Canvases.
@@ -234,11 +243,12 @@ const page = {
   // which the first is a whole one of four.
   canvasPath(canvas, transform, steps, count) {
     const context = page.context(canvas);
-    context.setTransform(...HEAPF64.subarray(transform >> 3, (transform >> 3) + 6));
+    const at = (address) => HEAPF64.subarray(address >> 3, (address >> 3) + 6);
+    context.setTransform(...at(transform));
     context.beginPath();
-    for (let step = steps >> 3; count > 0; --count, step += 7) {
-      const [x, y, x1, y1, x2, y2] = HEAPF64.subarray(step + 1, step + 7);
-      switch (HEAP32[2 * step]) {
+    for (let step = steps; count > 0; --count, step += 56) {
+      const [x, y, x1, y1, x2, y2] = at(step + 8);
+      switch (HEAP32[step >> 2]) {
         case 0: context.moveTo(x, y); break;
         case 1: context.lineTo(x, y); break;
         case 2: context.bezierCurveTo(x1, y1, x2, y2, x, y); break;
@@ -270,6 +280,10 @@ const page = {
   },
   canvasDraw(canvas, from, left, top, width, height, x, y, mirrored, upsideDown) {
     const context = page.context(canvas);
+    if (!mirrored && !upsideDown) {
+      context.drawImage(page.elements[from], left, top, width, height, x, y, width, height);
+      return;
+    }
     context.setTransform(mirrored ? -1 : 1, 0, 0, upsideDown ? -1 : 1, x + (mirrored ? width : 0),
       y + (upsideDown ? height : 0));
     context.drawImage(page.elements[from], left, top, width, height, 0, 0, width, height);

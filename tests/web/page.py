@@ -1,0 +1,216 @@
+"""The page of a game in a browser, for whoever plays it or measures it."""
+
+import base64
+import contextlib
+import functools
+import http.server
+import io
+import json
+import pathlib
+import sys
+import tempfile
+import threading
+
+from PIL import Image
+from selenium import webdriver
+from selenium.webdriver.chrome.service import Service
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+from player import FREE, Player, wait
+
+SWITCHES = ("--headless=new --no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking "
+            "--disable-component-update --disable-sync").split()
+KEYS = {"Enter": 13, "Escape": 27, "Tab": 9, " ": 32, "PageUp": 33, "PageDown": 34, "End": 35, "Home": 36,
+        "ArrowLeft": 37, "ArrowUp": 38, "ArrowRight": 39, "ArrowDown": 40, "F1": 112}
+BUTTONS = {"left": 1, "right": 2}
+
+
+class Server(http.server.ThreadingHTTPServer):
+    """Serves a folder under a path of its own."""
+
+    def __init__(self, folder):
+        class Handler(http.server.SimpleHTTPRequestHandler):
+            def translate_path(self, path):
+                return super().translate_path(path.removeprefix("/some/where"))
+
+            def log_message(self, *words):
+                pass
+
+        super().__init__(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
+        self.address = f"http://127.0.0.1:{self.server_port}/some/where/"
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    def handle_error(self, *request):
+        if not isinstance(sys.exc_info()[1], ConnectionError):  # a browser may hang up
+            super().handle_error(*request)
+
+
+class Page(Player):
+    """The game in Chromium."""
+
+    def __init__(self, address, ratio=1):
+        options = webdriver.ChromeOptions()
+        self.profile = tempfile.TemporaryDirectory()
+        for switch in [*SWITCHES, f"--user-data-dir={self.profile.name}", f"--force-device-scale-factor={ratio}"]:
+            options.add_argument(switch)
+        options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
+        self.browser = webdriver.Chrome(options=options, service=Service("/usr/bin/chromedriver"))
+        self.address = address
+        self.down = 0
+        self.at = (0, 0)
+
+    def close(self):
+        self.browser.quit()
+        self.profile.cleanup()
+
+    def screen(self, width=1000, height=700):
+        """The size of the page, in its own pixels before any zoom."""
+        self.tell("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=0, mobile=False)
+        self.frames(2)
+
+    def frames(self, count):
+        """Waits until so many have been shown."""
+        self.browser.execute_async_script("""
+            const [count, done] = arguments;
+            const next = (left) => left ? requestAnimationFrame(() => next(left - 1)) : done();
+            next(count);""", count)
+
+    def zoom(self, factor):
+        """As the browser's user does it."""
+        with self.hidden():
+            self.browser.get("chrome://settings")
+            self.browser.execute_async_script("chrome.settingsPrivate.setDefaultZoom(...arguments)", factor)
+
+    def tell(self, command, **values):
+        return self.browser.execute_cdp_cmd(command, values)
+
+    def ask(self, expression):
+        return self.browser.execute_script(f"return {expression}")
+
+    def open(self):
+        self.browser.get(self.address)
+        self.wait_for_form("cmdPlay")
+        self.down = 0
+
+    def open_table(self):
+        self.open()
+        self.key("Enter")
+        self.in_front("Tumble")
+
+    def wait_for_form(self, control):
+        wait(control, lambda: self.ask(f"!!document.querySelector('[data-name={control}]')?.clientWidth"))
+
+    def in_front(self, title):
+        """Waits until the dialog with the title is open, or none over the form with it, and the deal is over."""
+        wait(title, lambda: [title] == (self.box()[:1] or self.ask("[document.title]")))
+        wait("the deal", lambda: not self.ask("document.querySelector('.busy')"))
+
+    def message(self, title):
+        """Waits for the message box with the title; its text."""
+        self.in_front(title)
+        return self.box()[1]
+
+    def on_table(self, place):
+        left, top, unit = self.ask("(r => [r.x, r.y, r.width / 9015])"
+                                   "(document.querySelector('[data-name=picTable]').getBoundingClientRect())")
+        return round(left + place[0] * unit), round(top + place[1] * unit)
+
+    def pointer(self, kind, at, button="none"):
+        self.at = at
+        self.tell("Input.dispatchMouseEvent", type=kind, x=at[0], y=at[1], button=button, buttons=self.down,
+                  clickCount=1)
+
+    def mouse(self, *steps):
+        """Places on the table to move to, and what to do there with a button."""
+        for step in steps:
+            if isinstance(step, tuple):
+                held = next((name for name, bit in BUTTONS.items() if self.down & bit), "none")
+                self.pointer("mouseMoved", self.on_table(step), held)
+            else:
+                self.down ^= BUTTONS[step[1:]]
+                self.pointer("mousePressed" if step[0] == "+" else "mouseReleased", self.at, step[1:])
+
+    def touch(self, kind, *places):
+        """Begins, goes on with or ends what fingers do ("touchStart"), those that touch being at places of the page."""
+        self.tell("Input.dispatchTouchEvent", type=kind, touchPoints=[dict(zip("xy", place)) for place in places])
+
+    def drag_by_finger(self, place, to, end="touchEnd"):
+        at, *ways = (self.on_table(each) for each in (place, FREE, to))
+        self.touch("touchStart", at)
+        for way in ways:
+            self.touch("touchMove", way)
+        self.frames(8)  # a finger that leaves in motion flings: a browser takes the next tap for the end of that
+        self.touch(end)
+
+    def middle(self, element):
+        return self.ask(f"(r => [r.x + r.width / 2, r.y + r.height / 2])({element}.getBoundingClientRect())")
+
+    def click(self, selector):
+        self.click_at(self.middle(f"document.querySelector('{selector}')"))
+
+    def click_at(self, place):
+        self.at = place
+        self.mouse("+left", "-left")
+
+    def button(self, caption):
+        """Where a button is, the one in front."""
+        return self.middle("[...document.querySelectorAll('button')]"
+                           f".findLast(button => button.clientWidth && button.innerText.trim() === '{caption}')")
+
+    def press(self, caption):
+        self.click_at(self.button(caption))
+
+    def tap(self, caption):
+        self.touch("touchStart", self.button(caption))
+        self.touch("touchEnd")
+
+    def key(self, key, repeated=False):
+        """Strikes a key, such as "Enter", " " or "alt+x"."""
+        *alt, key = key.split("+")
+        code = f"Key{key.upper()}" if len(key) == 1 and key.isalpha() else {" ": "Space"}.get(key, key)
+        named = {"key": key, "code": code, "modifiers": len(alt),
+                 "windowsVirtualKeyCode": KEYS.get(key) or ord(key.upper())}
+        text = "" if alt else {"Enter": "\r", " ": " "}.get(key, "")
+        self.tell("Input.dispatchKeyEvent", type="keyDown" if text else "rawKeyDown", text=text, autoRepeat=repeated,
+                  **named)
+        self.tell("Input.dispatchKeyEvent", type="keyUp", **named)
+
+    def vanish(self):
+        """Goes from the screen and comes back; the button is let go meanwhile."""
+        with self.hidden():
+            self.down = 0
+
+    @contextlib.contextmanager
+    def hidden(self):
+        """Another tab is in front meanwhile."""
+        handle = self.browser.current_window_handle
+        self.browser.switch_to.new_window("tab")
+        yield
+        self.browser.close()
+        self.browser.switch_to.window(handle)
+
+    def label(self):
+        return self.ask("document.querySelector('[data-name=lblCurrentCard]').innerText")
+
+    def box(self):
+        """Title and text of the dialog that is open."""
+        return self.ask("[...document.querySelectorAll('dialog h1, dialog p')].map(part => part.innerText)")
+
+    def focus(self):
+        return self.ask("(e => e.dataset.name ?? e.parentElement.dataset.name ?? e.innerText)(document.activeElement)")
+
+    def look(self, place):
+        """The colour under a place on the table, where a face held there is blank."""
+        left, top = self.on_table(place)
+        return self.photograph().getpixel((left + 2, top + 90))
+
+    def photograph(self):
+        return Image.open(io.BytesIO(base64.b64decode(self.tell("Page.captureScreenshot")["data"]))).convert("RGB")
+
+    def over(self):
+        return "The game is over." in self.ask("document.body.innerText")
+
+    def requests(self):
+        messages = [json.loads(entry["message"])["message"] for entry in self.browser.get_log("performance")]
+        return {message["params"]["request"]["url"] for message in messages
+                if message["method"] == "Network.requestWillBeSent"}
