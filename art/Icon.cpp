@@ -40,11 +40,12 @@ std::vector<Shape> iconShapes() {
     return shapes;
 }
 
-void drawIcon(Canvas& canvas) {
-    const auto [width, height] = canvas.size();
+void drawIcon(Canvas& canvas, int margin) {
+    const int width = canvas.size().width - 2 * margin;
+    const int height = canvas.size().height - 2 * margin;
     const PixelSize size{inPixels(boxWidth, width), inPixels(boxWidth, height)};
     for (const auto& [suit, corner] : suits) {
-        paintSuit(canvas, suit, size.at({along(corner.x, width), along(corner.y, height)}));
+        paintSuit(canvas, suit, size.at({margin + along(corner.x, width), margin + along(corner.y, height)}));
     }
 }
 

@@ -33,8 +33,8 @@ bool drawPicture(std::string_view key, Canvas& canvas);
 /// The colour table of a picture, of 256 entries.
 std::vector<Colour> pictureColours(int picture);
 
-/// Draws the program's icon on what is there, and its colour table of 16 entries.
-void drawIcon(Canvas& canvas);
+/// Draws the program's icon on what is there, with a margin of so many pixels, and its colour table of 16 entries.
+void drawIcon(Canvas& canvas, int margin = 0);
 std::vector<Colour> iconColours();
 
 } // namespace tumble

@@ -10,7 +10,9 @@
 
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <stdexcept>
+#include <string>
 
 namespace tumble {
 
@@ -31,13 +33,20 @@ void writePictures(const std::filesystem::path& folder) {
 void writeIcons(const std::filesystem::path& folder) {
     std::filesystem::create_directories(folder);
     writeSvg(iconShapes(), iconWidth, folder / "tumble.svg");
-    for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
-        const std::filesystem::path file = folder / ("tumble-" + std::to_string(width) + ".png");
-        QtCanvas icon({width, width}, {});
-        drawIcon(icon);
+    const auto write = [&](const std::string& name, int width, std::optional<Colour> ground, int margin) {
+        const std::filesystem::path file = folder / (name + std::to_string(width) + ".png");
+        QtCanvas icon({width, width}, ground);
+        drawIcon(icon, margin);
         if (!icon.image().convertToFormat(QImage::Format_ARGB32).save(QString::fromStdString(file.string()))) {
             throw std::runtime_error("cannot write " + file.string());
         }
+    };
+    for (const int width : {16, 24, 32, 48, 64, 128, 192, 256, 512}) {
+        write("tumble-", width, {}, 0);
+    }
+    // For launchers that cut it to shapes of theirs, which contain a circle of four fifths of the width.
+    for (const int width : {192, 512}) {
+        write("tumble-maskable-", width, rgb(255, 255, 255), width * 3 / 16);
     }
 }
 

@@ -118,6 +118,7 @@ const page = {
       matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', observe, {once: true});
     };
     observe();
+    (window.requestIdleCallback ?? setTimeout)(() => navigator.serviceWorker?.register('offline.js').catch(() => {}));
   },
 
   // Elements.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <optional>
 #include <set>
@@ -27,9 +28,9 @@ QImage drawn(int picture, QSize size) {
     return canvas.image();
 }
 
-QImage drawnIcon(int width, std::optional<Colour> ground) {
+QImage drawnIcon(int width, std::optional<Colour> ground, int margin = 0) {
     QtCanvas canvas({width, width}, ground);
-    drawIcon(canvas);
+    drawIcon(canvas, margin);
     return canvas.image();
 }
 
@@ -82,8 +83,29 @@ TEST(Assets, AreWhatTheProgramDraws) {
         expectDrawn(pictureKey(picture) + ".gif", drawn(picture, QSize(81, 126)));
     }
     expectDrawn("tumble.gif", drawnIcon(32, rgb(255, 255, 255)));
-    for (const int width : {16, 24, 32, 48, 64, 128, 256}) {
+    for (const int width : {16, 24, 32, 48, 64, 128, 192, 256, 512}) {
         expectDrawn("icons/tumble-" + std::to_string(width) + ".png", drawnIcon(width, {}));
+    }
+    for (const int width : {192, 512}) {
+        expectDrawn("icons/tumble-maskable-" + std::to_string(width) + ".png",
+                    drawnIcon(width, rgb(255, 255, 255), width * 3 / 16));
+    }
+}
+
+// Launchers cut them to shapes that contain a circle of four fifths of the width.
+TEST(Assets, MaskableIconsKeepInsideTheCircleThatAlwaysShows) {
+    for (const int width : {192, 512}) {
+        const QImage icon = fileImage("icons/tumble-maskable-" + std::to_string(width) + ".png");
+        double furthest = 0;
+        for (int y = 0; y < width; ++y) {
+            for (int x = 0; x < width; ++x) {
+                if (icon.pixel(x, y) != qRgb(255, 255, 255)) {
+                    furthest = std::max(furthest, std::hypot(x + 0.5 - width / 2.0, y + 0.5 - width / 2.0));
+                }
+            }
+        }
+        EXPECT_LE(furthest, 0.4 * width) << width;
+        EXPECT_GE(furthest, 0.35 * width) << width << ": small";
     }
 }
 
