@@ -2,12 +2,13 @@
 #include "game/MainMod.h"
 #include "platform/web/WebDesktop.h"
 
-int main() {
-    // Both last as long as the page.
+#include <emscripten.h>
+
+/// The page calls it once. It returns; both objects last as long as the page.
+extern "C" EMSCRIPTEN_KEEPALIVE void page_start() {
     static tumble::WebDesktop desktop(tumble::application(), [](const auto& picture, auto& canvas) {
         return tumble::drawPicture(picture.Key, canvas);
     });
     static tumble::MainMod mainMod;
     mainMod.Main();
-    return 0;
 }

@@ -87,6 +87,7 @@ void Painting::prune() const {
         Rect place;
     };
     std::vector<Cover> covers;
+    covers.reserve(items_.size() - settled_);
     std::vector<Cover> others; // of them, that repaint nothing
     std::vector<bool> repaints(items_.size());
     std::size_t repainted = 0; // so many settled items, from the first
@@ -127,31 +128,43 @@ void Painting::prune() const {
 
 // Items that stand at the same position in lists of the same length, or at both ends of others, look the same wherever
 // none of the rest lies.
-Rect Painting::changedSince(const Painting& before) const {
-    if (ground_ != before.ground_) {
+Rect Painting::become(const Painting& other) {
+    if (ground_ != other.ground_) {
+        *this = other;
         return bounds_.grown(fringe);
     }
-    const auto& was = before.items();
-    const auto& is = items();
-    const std::size_t common = std::min(was.size(), is.size());
+    items();
+    const auto& next = other.items();
+    Rect changed;
+    const auto changes = [&changed](const std::vector<PaintItem>& items, std::size_t position) {
+        changed = changed.joined(visiblePart(items, position));
+    };
+    if (items_.size() == next.size()) {
+        for (std::size_t i = 0; i < next.size(); ++i) {
+            if (items_[i] != next[i]) {
+                changes(items_, i);
+                changes(next, i);
+                items_[i] = next[i];
+            }
+        }
+        return changed;
+    }
+    const std::size_t common = std::min(items_.size(), next.size());
     std::size_t head = 0;
-    while (head < common && was[head] == is[head]) {
+    while (head < common && items_[head] == next[head]) {
         ++head;
     }
     std::size_t tail = 0;
-    while (tail < common - head && was[was.size() - 1 - tail] == is[is.size() - 1 - tail]) {
+    while (tail < common - head && items_[items_.size() - 1 - tail] == next[next.size() - 1 - tail]) {
         ++tail;
     }
-    Rect changed;
-    const auto join = [&](const std::vector<PaintItem>& items) {
-        for (std::size_t i = head; i + tail < items.size(); ++i) {
-            if (was.size() != is.size() || was[i] != is[i]) {
-                changed = changed.joined(visiblePart(items, i));
-            }
-        }
-    };
-    join(was);
-    join(is);
+    for (std::size_t i = head; i + tail < items_.size(); ++i) {
+        changes(items_, i);
+    }
+    for (std::size_t i = head; i + tail < next.size(); ++i) {
+        changes(next, i);
+    }
+    *this = other;
     return changed;
 }
 

@@ -112,8 +112,9 @@ public:
     Colour ground() const { return ground_; }
     const std::vector<PaintItem>& items() const;
 
-    /// Where the painting may look other than `before`, in twips, the fringe included; empty when it does nowhere.
-    Rect changedSince(const Painting& before) const;
+    /// Becomes another painting of the same surface, and returns where it may look other than before, in twips, the
+    /// fringe included; empty when it does nowhere.
+    Rect become(const Painting& other);
 
 private:
     void prune() const;

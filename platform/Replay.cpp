@@ -132,6 +132,7 @@ PixelRect replay(Canvas& canvas, const Painting& painting, PixelScale scale, Pix
     }
     part = withWholeCircles(part, items, scale).intersected(canvas.bounds());
     std::vector<PixelRect> covers;
+    covers.reserve(items.size());
     const auto visiblePart = [&](const PixelRect& place) {
         PixelRect visible = place.intersected(part);
         for (auto cover = covers.begin(); cover != covers.end() && !visible.empty(); ++cover) {

@@ -10,11 +10,11 @@ PixelRect ShownPainting::bringUpToDate(Canvas& canvas, const Painting& painting,
     size_ = canvas.size();
     factor_ = scale.factor();
     const PixelRect all = canvas.bounds();
-    const PixelRect part = anew ? all : scale.pixels(painting.changedSince(shown_)).intersected(all);
+    const PixelRect changed = scale.pixels(shown_.become(painting)).intersected(all);
+    const PixelRect part = anew ? all : changed;
     if (part.empty()) {
         return part;
     }
-    shown_ = painting;
     return replay(canvas, painting, scale, part, pictures_);
 }
 

@@ -98,9 +98,13 @@ TEST(PaintingTest, TellsWhereItChanged) {
         {{}, {B, C}, {100, 0, 209, 9}},
         {{A, overA}, {at(0, blue), overA}, {0, 0, 2, 9}}};
     for (const auto& [before, after, changed] : cases) {
-        EXPECT_EQ(painted(after).changedSince(painted(before)), changed) << inWords(before) << " to " << inWords(after);
+        Painting shown = painted(before);
+        EXPECT_EQ(shown.become(painted(after)), changed) << inWords(before) << " to " << inWords(after);
+        EXPECT_EQ(inWords(shown.items()), inWords(after));
     }
-    EXPECT_EQ(Painting(3000, 2000, red).changedSince(Painting(3000, 2000, blue)), (Rect{-100, -100, 3099, 2099}));
+    Painting shown(3000, 2000, blue);
+    EXPECT_EQ(shown.become(Painting(3000, 2000, red)), (Rect{-100, -100, 3099, 2099}));
+    EXPECT_EQ(shown.ground(), red);
 }
 
 TEST(PixelScaleTest, PixelIsTheOneInWhichThePlaceLiesAndBeginsAtAWholeTwip) {

@@ -12,7 +12,7 @@ from page import Page, Server
 from player import in_spread
 
 ROUNDS = 21
-STEPS = 30
+STEPS = 100 # 2 seconds or so
 # When the frame with the last control has been painted, in milliseconds since the navigation: looked for after each
 # frame, as the page lays out in the middle of one.
 PAINTED = """
@@ -43,7 +43,7 @@ def steps(page):
     """Script and task of a mouse step, in milliseconds."""
     before = metrics(page)
     for step in range(STEPS):
-        page.pointer("mouseMoved", (300 + 8 * step, 300 + 3 * step), "left")
+        page.pointer("mouseMoved", (300 + 2.4 * step, 300 + 0.9 * step), "left")
         page.ask("0")
     return [1000 * (after - each) / STEPS for each, after in zip(before, metrics(page))]
 

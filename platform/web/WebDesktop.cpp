@@ -23,12 +23,7 @@ WebDesktop::WebDesktop(Application application, PicturePainter painter)
     page_listen();
 }
 
-void WebDesktop::handle(const std::function<void()>& report) {
-    if (ended_) {
-        return;
-    }
-    ++running_;
-    report();
+void WebDesktop::returned() {
     --running_;
     everySurface(&Surface::show);
     if (running_ == 0) {
@@ -167,14 +162,6 @@ bool WebDesktop::key(int focus, const KeyPress& press) {
 bool WebDesktop::accessKey(char letter) const {
     const FormView* view = inFront();
     return view != nullptr && view->form()->pressAccessKey(letter);
-}
-
-void WebDesktop::everySurface(const std::function<void(Surface&)>& action) const {
-    for (const auto& view : views_) {
-        for (const auto& surface : view->surfaces()) {
-            action(*surface);
-        }
-    }
 }
 
 Surface* WebDesktop::surface(int canvas) const {

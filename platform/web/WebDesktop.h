@@ -35,13 +35,27 @@ public:
     // What the page reports.
 
     /// Handles a report, if the game is not over; what it leads to shows afterwards.
-    void handle(const std::function<void()>& report);
+    template<class Report>
+    void handle(const Report& report) {
+        if (!ended_) {
+            ++running_;
+            report();
+            returned();
+        }
+    }
     void resized(PixelSize page);
     void input(int element, int value);
     // False for a key that means nothing.
     bool key(int focus, const KeyPress& press);
     bool accessKey(char letter) const;
-    void everySurface(const std::function<void(Surface&)>& action) const;
+    template<class Action>
+    void everySurface(const Action& action) const {
+        for (const auto& view : views_) {
+            for (const auto& surface : view->surfaces()) {
+                std::invoke(action, *surface);
+            }
+        }
+    }
     /// Null for another element.
     Surface* surface(int canvas) const;
 
@@ -50,6 +64,8 @@ private:
     /// The form in front; null when none shows.
     FormView* inFront() const;
     void layOut(FormView& view) const;
+    /// A handler has.
+    void returned();
     /// Suspends the running handler for as long as the page waits.
     void suspend(void (*wait)());
     void nextFrame();

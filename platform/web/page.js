@@ -1,7 +1,7 @@
 // What the page does for the program, and what it reports to it: nothing is decided here. The program knows elements by
 // numbers, lengths in pixels of the screen.
 /* global _page_accessKey, _page_input, _page_key, _page_longPress, _page_pointer, _page_recoloured, _page_resized */
-/* global _page_shown, Asyncify, HEAP32, HEAPF64, UTF8ToString */
+/* global _page_shown, _page_start, Asyncify, HEAP32, HEAPF64, UTF8ToString */
 'use strict';
 
 const page = {
@@ -43,15 +43,12 @@ const page = {
   pointer(event) {
     const {type, pointerId, pointerType, button, buttons} = event;
     const touches = pointerType === 'touch';
-    const under = event.target.closest?.('.surface');
+    const box = !touches && page.held || event.target.closest?.('.surface');
     if (type === 'pointerdown') {
-      page.began = under;
-      under?.focus({preventScroll: true});
+      page.began = box;
+      box?.focus({preventScroll: true});
+      page.held = touches ? page.held : box;
     }
-    if (type === 'pointerdown' && !touches) {
-      page.held ??= under;
-    }
-    const box = touches ? under : page.held ?? under;
     if (!buttons) {
       page.held = null;
     }
@@ -60,11 +57,12 @@ const page = {
     }
     if (type !== 'pointermove') {
       clearTimeout(page.pressTime);
+      box.corner = null;
     }
     if (type === 'pointerdown' && touches) {
       page.pressTime = setTimeout(_page_longPress, 600, box.number);
     }
-    const {left, top} = box.getBoundingClientRect();
+    const {left, top} = box.corner ??= box.getBoundingClientRect(); // too slow for each move
     _page_pointer(box.number, page.pointerEvents.indexOf(type), touches, pointerId, button, buttons,
       page.shiftKeys(event) & 7, (event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio);
   },
@@ -104,13 +102,18 @@ const page = {
     main.replaceChildren();
     // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
-    const observer = new ResizeObserver(([{contentRect, devicePixelContentBoxSize: [told] = [{}]}]) => {
-      const {width, height} = contentRect;
+    let shown = '';
+    const resized = ({width, height}, told) => {
       // On fewer pixels than the smallest scale needs, what is shown is shrunk.
       const shrunk = Math.max(1, 480 / (width * devicePixelRatio), 336 / (height * devicePixelRatio));
       page.ratio = devicePixelRatio * shrunk;
-      _page_resized(exact(told.inlineSize, width * page.ratio), exact(told.blockSize, height * page.ratio));
-    });
+      const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
+      if (shown !== (shown = `${size} ${page.ratio}`)) {
+        _page_resized(...size);
+      }
+    };
+    resized(main.getBoundingClientRect());
+    const observer = new ResizeObserver(([entry]) => resized(entry.contentRect, entry.devicePixelContentBoxSize?.[0]));
     const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
     const observe = () => { // anew at another zoom, and on another screen
       observer.disconnect();
@@ -147,7 +150,9 @@ const page = {
     page.elements[number].style.setProperty(UTF8ToString(name), page.css(pixels));
   },
   place(number, left, top, width, height) {
-    const {style} = page.elements[number];
+    const element = page.elements[number];
+    const {style} = element;
+    element.corner = null;
     [style.left, style.top, style.width, style.height] = [left, top, width, height].map(page.css);
   },
   // The ampersand marks the access key.
@@ -244,15 +249,15 @@ const page = {
   // which the first is a whole one of four.
   canvasPath(canvas, transform, steps, count) {
     const context = page.context(canvas);
-    const at = (address) => HEAPF64.subarray(address >> 3, (address >> 3) + 6);
-    context.setTransform(...at(transform));
+    const n = HEAPF64;
+    let at = transform >> 3;
+    context.setTransform(n[at], n[at + 1], n[at + 2], n[at + 3], n[at + 4], n[at + 5]);
     context.beginPath();
-    for (let step = steps; count > 0; --count, step += 56) {
-      const [x, y, x1, y1, x2, y2] = at(step + 8);
-      switch (HEAP32[step >> 2]) {
-        case 0: context.moveTo(x, y); break;
-        case 1: context.lineTo(x, y); break;
-        case 2: context.bezierCurveTo(x1, y1, x2, y2, x, y); break;
+    for (at = steps >> 3; count > 0; --count, at += 7) {
+      switch (HEAP32[2 * at]) {
+        case 0: context.moveTo(n[at + 1], n[at + 2]); break;
+        case 1: context.lineTo(n[at + 1], n[at + 2]); break;
+        case 2: context.bezierCurveTo(n[at + 3], n[at + 4], n[at + 5], n[at + 6], n[at + 1], n[at + 2]); break;
         default: context.closePath();
       }
     }
@@ -291,3 +296,5 @@ const page = {
     context.resetTransform();
   },
 };
+
+globalThis.Module = {onRuntimeInitialized: () => _page_start()};
