@@ -10,5 +10,5 @@ extern "C" EMSCRIPTEN_KEEPALIVE void page_start() {
         return tumble::drawPicture(picture.Key, canvas);
     });
     static tumble::MainMod mainMod;
-    mainMod.Main();
+    desktop.handle([] { mainMod.Main(); });
 }

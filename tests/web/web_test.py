@@ -53,6 +53,14 @@ class WebTest(Scenarios, unittest.TestCase):
         game.click("#over a")
         game.wait_for_form("cmdPlay")
 
+    def test_previews_show_before_anything_happens(self):
+        page = self.start()
+        for name in ("pctCardSize", "pctBackDesign"):
+            left, top, width, height = page.ask(f"(r => [r.x, r.y, r.width, r.height])"
+                                                f"(document.querySelector('[data-name={name}]').getBoundingClientRect())")
+            colours = page.photograph().crop((left, top, left + width, top + height)).getcolors(width * height)
+            self.assertGreater(len(colours), 2, name)
+
     def test_page_changes_its_size_and_is_left_in_the_middle_of_a_box(self):
         page = self.start_table()
         page.key("F1")
