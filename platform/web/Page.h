@@ -6,7 +6,7 @@
 // What it reports comes in at the end of WebDesktop.cpp.
 extern "C" {
 
-/// From now on the page reports what happens.
+/// From now on the page reports what happens; its size at once.
 void page_listen();
 
 /// Adds a template of index.html. The number is that of its first element; those that follow have the next ones.

@@ -186,9 +186,7 @@ class EnginesTest(unittest.TestCase):
                             ("ArrowUp", "optDeckStandardWithJokers"), ("ArrowUp", "optDeckStandard")):
             page.key(key)
             wait_for(choice)
-        left, top, width, height = page.ask("(r => [r.x, r.y, r.width, r.height])"
-                                            "(document.querySelector('[data-name=sldBackDesign]')"
-                                            ".getBoundingClientRect())")
+        left, top, width, height = page.control("sldBackDesign")
         for part, value in ((.96, "4"), (.35, "2"), (.04, "1")):
             page.hold((left + width / 2, top + height * part))
             wait_for_value(value)

@@ -110,10 +110,17 @@ class Page(Player):
         self.in_front(title)
         return self.box()[1]
 
+    def block(self, element):
+        """Left, top, width and height of an element, in the page's pixels."""
+        return self.ask(f"(r => [r.x, r.y, r.width, r.height])({element}.getBoundingClientRect())")
+
+    def control(self, name):
+        """The block of a control."""
+        return self.block(f"document.querySelector('[data-name={name}]')")
+
     def on_table(self, place):
-        left, top, unit = self.ask("(r => [r.x, r.y, r.width / 9015])"
-                                   "(document.querySelector('[data-name=picTable]').getBoundingClientRect())")
-        return round(left + place[0] * unit), round(top + place[1] * unit)
+        left, top, width, _ = self.control("picTable")
+        return round(left + place[0] * width / 9015), round(top + place[1] * width / 9015)
 
     def pointer(self, kind, at, button="none"):
         self.at = at
@@ -143,7 +150,8 @@ class Page(Player):
         self.touch(end)
 
     def middle(self, element):
-        return self.ask(f"(r => [r.x + r.width / 2, r.y + r.height / 2])({element}.getBoundingClientRect())")
+        left, top, width, height = self.block(element)
+        return [left + width / 2, top + height / 2]
 
     def click(self, selector):
         self.click_at(self.middle(f"document.querySelector('{selector}')"))

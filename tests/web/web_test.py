@@ -56,8 +56,7 @@ class WebTest(Scenarios, unittest.TestCase):
     def test_previews_show_before_anything_happens(self):
         page = self.start()
         for name in ("pctCardSize", "pctBackDesign"):
-            left, top, width, height = page.ask(f"(r => [r.x, r.y, r.width, r.height])"
-                                                f"(document.querySelector('[data-name={name}]').getBoundingClientRect())")
+            left, top, width, height = page.control(name)
             colours = page.photograph().crop((left, top, left + width, top + height)).getcolors(width * height)
             self.assertGreater(len(colours), 2, name)
 
