@@ -202,6 +202,10 @@ private:
     Handler change_;
 };
 
+inline const Control& asControl(const AnyControl& control) {
+    return *std::visit([](const Control* each) { return each; }, control);
+}
+
 /// What a key does to the control that has the focus. The control that has it then; none for a key that means nothing.
 std::optional<AnyControl> press(const AnyControl& focused, Key key);
 

@@ -6,6 +6,8 @@
 
 namespace tumble {
 
+enum class FingerEvent { Touch, Move, Lift, LongPress };
+
 /// A finger at a picture box, of which the box is told as of the mouse. What a touch means shows later: a move by the
 /// start-drag distance makes it a press at the first place, the moves that follow and a release; a lift before that, a
 /// press and a release; the end of the long-press time before both, a press and a release of the right button, and

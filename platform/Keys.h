@@ -7,8 +7,8 @@ namespace tumble {
 
 /// The keys that mean something: those of the keyboard's pointer, of which the first eight do the same again as the
 /// keyboard repeats them, and those that mean the same wherever the focus is. Space and F by the letter, the others
-/// wherever they lie.
-enum class Key { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10, Enter, Esc, F1, F11 };
+/// wherever they lie. `Other` is any that means nothing by itself.
+enum class Key { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10, Enter, Esc, F1, F11, Other };
 
 struct KeyPress {
     Key key;
@@ -17,6 +17,7 @@ struct KeyPress {
     bool alt = false;
     bool meta = false;
     bool repeated = false; // by the keyboard, as the key is held
+    char letter = 0;       // an access key's, a capital, if that is what the keys together stand for
 };
 
 /// Whether the key acts once, however long it is held.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <variant>
 
 namespace tumble {
 
@@ -69,7 +68,7 @@ Place roomOf(const OptionButton& option) {
     float free = room.Height;
     float right = std::min(option.container().Width() - end - optionGap, mostToTheRight);
     for (const AnyControl& any : option.container().controls()) {
-        const Control& other = *std::visit([](const Control* control) { return control; }, any);
+        const Control& other = asControl(any);
         const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
         const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
         const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;

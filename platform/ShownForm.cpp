@@ -1,45 +1,53 @@
 #include "platform/ShownForm.h"
 
 #include <algorithm>
-#include <utility>
 #include <variant>
 
 namespace tumble {
 
-PixelSize ShownForm::roomFor(const Control& control) const {
-    const auto shown =
-        std::find_if(controls_.begin(), controls_.end(), [&](const Shown& each) { return each.control == &control; });
-    return shown != controls_.end() ? layout_.pixels(shown->room).size() : PixelSize();
+ShownSurface* ShownForm::surface(const PictureBox& box) const {
+    const auto surface =
+        std::find_if(surfaces_.begin(), surfaces_.end(), [&](const ShownSurface* each) { return each->box() == &box; });
+    return surface != surfaces_.end() ? *surface : nullptr;
 }
 
-void ShownForm::add(AnyControl control, std::function<void(const PixelRect&)> place, std::function<void()> update) {
+PixelSize ShownForm::roomFor(const Control& control) const {
+    const auto each =
+        std::find_if(controls_.begin(), controls_.end(), [&](const Each& other) { return other.control == &control; });
+    return each != controls_.end() ? layout_.pixels(each->room).size() : PixelSize();
+}
+
+void ShownForm::add(const AnyControl& control, ShownControl shown) {
     const auto add = [&](const auto* each) {
-        controls_.push_back({each, roomOf(*each), std::move(place), std::move(update)});
+        if constexpr (requires { captionStyle(*each); }) {
+            captions_.add(*each, captionStyle(*each), shown.captionRoom, shown.setFont);
+        }
+        controls_.push_back({each, roomOf(*each), std::move(shown)});
     };
     std::visit(add, control);
 }
 
 void ShownForm::layOut(const Layout& layout) {
     layout_ = layout;
-    for (const Shown& each : controls_) {
-        each.place(layout_.pixels(each.room));
+    for (const Each& each : controls_) {
+        each.shown.place(layout_.pixels(each.room));
     }
-    changed();
+    updateAll();
     captions_.fit(scale());
 }
 
 void ShownForm::changed(const Control& control) const {
-    for (const Shown& each : controls_) {
+    for (const Each& each : controls_) {
         if (each.control == &control) {
-            each.update();
+            each.shown.update();
         }
     }
     captions_.fit(control, scale());
 }
 
-void ShownForm::changed() const {
-    for (const Shown& each : controls_) {
-        each.update();
+void ShownForm::updateAll() const {
+    for (const Each& each : controls_) {
+        each.shown.update();
     }
 }
 
@@ -47,6 +55,60 @@ void ShownForm::retire() {
     form_ = nullptr;
     controls_.clear();
     captions_.clear();
+    for (ShownSurface* surface : surfaces_) {
+        surface->retire();
+    }
+    if (whenRetired) {
+        whenRetired();
+    }
+}
+
+void ShownForm::input(const AnyControl& control, int value) const {
+    if (form_ == nullptr) {
+        return;
+    }
+    if (auto* const* button = std::get_if<CommandButton*>(&control)) {
+        (*button)->Click();
+    } else if (auto* const* option = std::get_if<OptionButton*>(&control)) {
+        (*option)->Select();
+        if (!(*option)->Value()) {
+            updateAll();
+        }
+    } else if (auto* const* slider = std::get_if<Slider*>(&control)) {
+        (*slider)->Slide(value);
+        changed(**slider);
+    }
+}
+
+bool ShownForm::key(const AnyControl* focused, const KeyPress& press) {
+    if (press.letter != 0) {
+        return press.repeated || form_->pressAccessKey(press.letter);
+    }
+    if (press.key >= Key::Enter && press.key != Key::Other) {
+        if (!press.repeated) {
+            form_->press(press.key);
+        }
+        return true;
+    }
+    if (focused == nullptr || press.key == Key::Other) {
+        return false;
+    }
+    if (auto* const* box = std::get_if<PictureBox*>(focused)) {
+        return surface(**box)->key(press);
+    }
+    const auto now = tumble::press(*focused, press.key);
+    if (now) {
+        focus(*now);
+    }
+    return now.has_value();
+}
+
+std::vector<AnyControl> inTabOrder(const Container& container) {
+    std::vector<AnyControl> controls = container.controls();
+    std::stable_sort(controls.begin(), controls.end(), [](const AnyControl& one, const AnyControl& other) {
+        return asControl(one).TabIndex() < asControl(other).TabIndex();
+    });
+    return controls;
 }
 
 } // namespace tumble

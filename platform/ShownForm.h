@@ -2,7 +2,7 @@
 
 #include "platform/Captions.h"
 #include "platform/Layout.h"
-#include "platform/Pinned.h"
+#include "platform/ShownSurface.h"
 
 #include <functional>
 #include <utility>
@@ -10,44 +10,81 @@
 
 namespace tumble {
 
-/// A form as a window shows it, whatever the window is made of: where its controls lie and what they say.
+/// What a window has made of a control.
+struct ShownControl {
+    /// Places it among the pixels of its container,
+    std::function<void(const PixelRect&)> place;
+    /// and makes it show the control's state.
+    std::function<void()> update;
+    // Of a control that shows its caption:
+    Captions::Room captionRoom{};
+    Captions::SetFont setFont{};
+};
+
+/// A form as a window shows it: the role that a desktop's window fills, and what does not depend on what the window is
+/// made of: where its controls lie, what they say and what the player does to them.
 class ShownForm : private Pinned {
 public:
-    ShownForm(Form& form, Captions captions) : form_(&form), captions_(std::move(captions)) {}
+    ShownForm(Form& form, TextMeasure measure) : form_(&form), captions_(std::move(measure)) {}
+    virtual ~ShownForm() = default;
+
+    virtual void Show() = 0;
+    virtual void Hide() = 0;
+    virtual void MousePointer(Pointer pointer) = 0;
+    virtual bool shows() const = 0;
 
     /// Null once retired.
     Form* form() const { return form_; }
     double scale() const { return layout_.scale; }
-    const Layout& layout() const { return layout_; }
+    const std::vector<ShownSurface*>& surfaces() const { return surfaces_; }
+    ShownSurface* surface(const PictureBox& box) const;
+
+    /// Shows a control's new state.
+    void changed(const Control& control) const;
+    /// Comes off the screen for good. The form may be gone from now on, and hears no more; the window itself goes when
+    /// no handler runs any more.
+    virtual void retire();
+    /// Called by `retire`, where somebody waits for it.
+    Handler whenRetired;
+
+protected:
+    /// Adds a control of the form.
+    void add(const AnyControl& control, ShownControl shown);
+    /// Of a picture box; the window has it for as long as it lasts.
+    void add(ShownSurface& surface) { surfaces_.push_back(&surface); }
+    /// Places all controls and brings them up to date.
+    void layOut(const Layout& layout);
+    void scale(double scale) { layout_.scale = scale; }
+    const PixelRect& content() const { return layout_.content; }
     /// The pixels that the control has.
     PixelSize roomFor(const Control& control) const;
 
-    /// Adds a control of the form, by what places what shows it, among the pixels of its container, and what makes that
-    /// show the control's state.
-    void add(AnyControl control, std::function<void(const PixelRect&)> place, std::function<void()> update);
-    Captions& captions() { return captions_; }
-
-    /// Places all controls and brings them up to date.
-    void layOut(const Layout& layout);
-    /// A control is to be brought up to date.
-    void changed(const Control& control) const;
-    /// All are.
-    void changed() const;
-    /// The form may be gone from now on.
-    void retire();
+    /// The player clicks the button, chooses the option or moves the slider to a value. A toolkit shows that before
+    /// anybody is asked: where nothing came of it, what holds shows again.
+    void input(const AnyControl& control, int value = 0) const;
+    /// What a key does where the toolkit leaves it to the form; false for a key that means nothing. `focused` is null
+    /// where no control has the focus.
+    bool key(const AnyControl* focused, const KeyPress& press);
+    /// Gives the focus to a control, which a key has led to.
+    virtual void focus(const AnyControl& /*control*/) {}
 
 private:
-    struct Shown {
+    void updateAll() const;
+
+    struct Each {
         const Control* control;
         Place room;
-        std::function<void(const PixelRect&)> place;
-        std::function<void()> update;
+        ShownControl shown;
     };
 
     Form* form_;
     Layout layout_;
-    std::vector<Shown> controls_;
+    std::vector<Each> controls_;
+    std::vector<ShownSurface*> surfaces_;
     Captions captions_;
 };
+
+/// The controls of a container in the order in which a window makes them: that of their tab indexes.
+std::vector<AnyControl> inTabOrder(const Container& container);
 
 } // namespace tumble

@@ -60,10 +60,6 @@ TextSize measure(const std::string& text, const CaptionFont& font, std::optional
     return {size.width(), size.height(), metrics.lineSpacing()};
 }
 
-Captions::SetFont fontOf(QWidget* widget) {
-    return [widget](const CaptionFont& font) { widget->setFont(toQFont(font)); };
-}
-
 constexpr int darkerBeside = 120;   // percent
 constexpr QSize buttonMargin(8, 4); // logical pixels
 
@@ -73,19 +69,19 @@ ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame
     return {toPixelRect(screen.availableGeometry()), toPixelSize(screen.size()), screen.devicePixelRatio(), frame};
 }
 
-FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon,
-                       PictureCache& pictures)
+FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures)
     : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
+      ShownForm(form, measure),
       icon_(icon),
       pictures_(pictures),
       formSize_(form.Width(), form.Height()),
-      shown_(form, Captions(measure)),
-      frame_(before.frame) {
-    shown_.layOut({.scale = before.scale});
+      last_(last),
+      frame_(last.frame) {
+    scale(last.scale);
     setWindowTitle(QString::fromStdString(form.Caption()));
     setWindowIcon(icon);
-    if (before.screen != nullptr) {
-        setScreen(before.screen);
+    if (last.screen != nullptr) {
+        setScreen(last.screen);
     }
     if (modality == Modality::Modal) {
         setWindowModality(Qt::ApplicationModal);
@@ -94,17 +90,31 @@ FormWindow::FormWindow(Form& form, Modality modality, const WindowPlace& before,
     setGeometry(openingPlace());
     create();
     if (modality == Modality::Modeless) {
-        setWindowState(before.state);
+        setWindowState(last.state);
     }
     windowHandle()->installEventFilter(this);
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
     buildControls(form, this);
     setTabOrderByIndex();
-    layOut();
+    layOutWindow();
+}
+
+void FormWindow::Hide() {
+    last_ = place();
+    hide();
+}
+
+void FormWindow::MousePointer(Pointer pointer) {
+    setCursor(pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor);
+}
+
+void FormWindow::retire() {
+    Hide();
+    ShownForm::retire();
 }
 
 WindowPlace FormWindow::place() const {
-    return {screen(), frame_, windowState() & wholeScreen, scale()};
+    return {screen(), frame_, windowState() & wholeScreen, ShownForm::scale()};
 }
 
 QRect FormWindow::placeOver(QSize content) const {
@@ -128,39 +138,10 @@ QRect FormWindow::openingPlace() const {
     return toQRect(room().place(content, room().inside()));
 }
 
-SurfaceWidget* FormWindow::surface(const PictureBox& box) const {
-    return surfaces_.at(&box);
-}
-
-void FormWindow::showPaintings() {
-    for (const auto& [box, widget] : surfaces_) {
-        widget->showNow();
-    }
-}
-
-void FormWindow::inputIsBack() {
-    for (const auto& [box, widget] : surfaces_) {
-        widget->inputIsBack();
-    }
-}
-
-void FormWindow::retire() {
-    shown_.retire();
-    for (const auto& [box, widget] : surfaces_) {
-        widget->retire();
-    }
-    surfaces_.clear();
-    for (const auto& [index, widget] : byTabIndex_) {
-        disconnect(widget, nullptr, this, nullptr);
-    }
-    hide();
-    deleteLater();
-}
-
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (Form* form = shown_.form(); form != nullptr && desktop().takesInput(*form)) {
-        form->Form_Close();
+    if (form() != nullptr && desktop().takesInput(*form())) {
+        form()->Form_Close();
     }
 }
 
@@ -194,8 +175,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const std::optional<Key> key = keyOf(*event);
     if (key == Key::F11 && !isModal()) {
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-    } else if (key && shown_.form() != nullptr) {
-        shown_.form()->press(*key);
+    } else if (key && form() != nullptr) {
+        form()->press(*key);
     }
 }
 
@@ -214,8 +195,11 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
 
 QWidget* FormWindow::build(PictureBox& box, QWidget* parent) {
     auto* widget = new SurfaceWidget(box, pictures_, parent);
-    surfaces_.emplace(&box, widget);
-    add(&box, widget, [&box, widget] { widget->setAccessibleName(QString::fromStdString(box.Caption())); });
+    ShownForm::add(*widget);
+    add(&box, widget, [this, &box, widget] {
+        widget->scale(scale());
+        widget->setAccessibleName(QString::fromStdString(box.Caption()));
+    });
     return widget;
 }
 
@@ -224,12 +208,11 @@ QWidget* FormWindow::build(Label& label, QWidget* parent) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     widget->setAlignment(Qt::AlignTop | (label.align == TextAlign::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
-    shown_.captions().add(
-        label, captionStyle(label), [widget] { return toPixelSize(widget->size()); }, fontOf(widget));
-    add(&label, widget, [&label, widget] {
+    const auto update = [&label, widget] {
         widget->setText(QString::fromStdString(label.Caption()));
         relate(label, *widget);
-    });
+    };
+    add(&label, widget, update, [widget] { return toPixelSize(widget->size()); });
     return widget;
 }
 
@@ -242,30 +225,27 @@ QWidget* FormWindow::build(CommandButton& button, QWidget* parent) {
         widget = new FormButton(parent);
     }
     widget->setDefault(button.pressedBy(Key::Enter));
-    shown_.captions().add(
-        button, captionStyle(button), [widget] { return toPixelSize(widget->size() - buttonMargin); }, fontOf(widget));
-    add(&button, widget, [this, &button, widget] {
+    const auto update = [this, &button, widget] {
         widget->setIconSize(QSize(buttonIconSize, buttonIconSize) * scale());
         widget->setText(QString::fromStdString(button.Caption()));
-    });
-    connect(widget, &QPushButton::clicked, this, [&button] { button.Click(); });
+    };
+    add(&button, widget, update, [widget] { return toPixelSize(widget->size() - buttonMargin); });
+    connect(widget, &QPushButton::clicked, this, [this, &button] { input(&button); });
     return widget;
 }
 
 QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
     auto* widget = new WrappingRadioButton(parent);
-    shown_.captions().add(
-        option, captionStyle(option), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
-    add(&option, widget, [&option, widget] {
+    const auto update = [&option, widget] {
         widget->setText(QString::fromStdString(option.Caption()));
         widget->setChecked(option.Value());
         // Tab comes to the selected choice of a frame, the arrows go on from there.
         widget->setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
-    });
+    };
+    add(&option, widget, update, [widget] { return toPixelSize(widget->captionRoom().size()); });
     connect(widget, &QRadioButton::toggled, this, [this, &option](bool selected) {
         if (selected) {
-            option.Select();
-            changed(option); // which says if nothing came of it
+            input(&option);
         }
     });
     return widget;
@@ -273,12 +253,11 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
 
 QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
     auto* widget = new CaptionedFrame(parent);
-    shown_.captions().add(
-        frame, captionStyle(frame), [widget] { return toPixelSize(widget->captionRoom().size()); }, fontOf(widget));
-    add(&frame, widget, [this, &frame, widget] {
+    const auto update = [this, &frame, widget] {
         widget->captionHeight(qRound(frameCaptionHeight * scale()));
         widget->setTitle(QString::fromStdString(frame.Caption()));
-    });
+    };
+    add(&frame, widget, update, [widget] { return toPixelSize(widget->captionRoom().size()); });
     buildControls(frame, widget);
     return widget;
 }
@@ -295,41 +274,17 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
         widget->setRange(slider.Min(), slider.Max());
         widget->setValue(slider.Value());
     });
-    connect(widget, &QSlider::valueChanged, this, [this, &slider](int value) {
-        slider.Slide(value);
-        changed(slider);
-    });
+    connect(widget, &QSlider::valueChanged, this, [this, &slider](int value) { input(&slider, value); });
     return widget;
 }
 
-// Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
-void FormWindow::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setClipRegion(QRegion(rect()) - toQRect(shown_.layout().content).adjusted(-1, -1, 1, 1));
-    painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
-}
-
-void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
-    if (shown_.form() != nullptr) {
-        layOut();
-    }
-}
-
-void FormWindow::layOut() {
-    const Layout layout = layoutOf(formSize_, toPixelSize(size()), pixelRatio(*this));
-    style_.scale(layout.scale);
-    shown_.layOut(layout);
-    for (const auto& [box, surface] : surfaces_) {
-        surface->scale(scale());
-    }
-}
-
-void FormWindow::add(AnyControl control, QWidget* widget, std::function<void()> update) {
+void FormWindow::add(AnyControl control, QWidget* widget, std::function<void()> update, Captions::Room captionRoom) {
     const auto place = [this, widget](const PixelRect& room) {
-        const auto [left, top] = shown_.layout().content.corner();
+        const auto [left, top] = content().corner();
         widget->setGeometry(toQRect(room).translated(widget->parent() == this ? QPoint(left, top) : QPoint()));
     };
-    shown_.add(control, place, std::move(update));
+    const auto setFont = [widget](const CaptionFont& font) { widget->setFont(toQFont(font)); };
+    ShownForm::add(control, {place, std::move(update), std::move(captionRoom), setFont});
 }
 
 void FormWindow::setTabOrderByIndex() {
@@ -345,6 +300,25 @@ void FormWindow::setTabOrderByIndex() {
         }
         before = widget;
     }
+}
+
+// Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
+void FormWindow::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setClipRegion(QRegion(rect()) - toQRect(content()).adjusted(-1, -1, 1, 1));
+    painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
+}
+
+void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
+    if (form() != nullptr) {
+        layOutWindow();
+    }
+}
+
+void FormWindow::layOutWindow() {
+    const Layout layout = layoutOf(formSize_, toPixelSize(size()), pixelRatio(*this));
+    style_.scale(layout.scale);
+    layOut(layout);
 }
 
 } // namespace tumble

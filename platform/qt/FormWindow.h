@@ -16,8 +16,6 @@
 
 namespace tumble {
 
-class SurfaceWidget;
-
 /// What a modal window has of a frame.
 inline constexpr Qt::WindowFlags dialogFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -36,30 +34,23 @@ ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame
 /// Shows a form as a window of its own and reports to the form's controls what the player does. The content keeps the
 /// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1, or as large
 /// as its screen can hold.
-class FormWindow : public QWidget {
+class FormWindow : public QWidget, public ShownForm {
 public:
-    /// `before`: the window in front until now. A modal window opens at its scale, another at the one that suits the
-    /// program's largest form, in its state.
-    FormWindow(Form& form, Modality modality, const WindowPlace& before, const QIcon& icon, PictureCache& pictures);
+    /// `last` is the window in front until now, or the last one; this one when it goes. A modal window opens at its
+    /// scale, another at the one that suits the program's largest form, in its state.
+    FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures);
 
-    /// The scale that the window's size gives.
-    double scale() const { return shown_.scale(); }
+    void Show() override { show(); }
+    void Hide() override;
+    void MousePointer(Pointer pointer) override;
+    bool shows() const override { return isVisible(); }
+    void retire() override;
+
     WindowPlace place() const;
     /// What its screen has for it and for others with a frame like its own.
     ScreenRoom room() const { return roomOn(*screen(), frame_); }
     /// The place for another window of that size over this one.
     QRect placeOver(QSize content) const;
-
-    /// Shows a control's new state.
-    void changed(const Control& control) { shown_.changed(control); }
-    /// The widget of a picture box of the form.
-    SurfaceWidget* surface(const PictureBox& box) const;
-    /// Brings what was painted to the screen at once.
-    void showPaintings();
-    /// A message box or modal window over this one has closed.
-    void inputIsBack();
-    /// From now on the form, which may be gone, hears no more; the window goes when its running handler has returned.
-    void retire();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -76,21 +67,21 @@ private:
     QWidget* build(OptionButton& option, QWidget* parent);
     QWidget* build(Frame& frame, QWidget* parent);
     QWidget* build(Slider& slider, QWidget* parent);
-    void add(AnyControl control, QWidget* widget, std::function<void()> update);
+    // By what brings the widget up to date.
+    void add(AnyControl control, QWidget* widget, std::function<void()> update, Captions::Room captionRoom = {});
     void setTabOrderByIndex();
     void followScreen(QScreen* screen);
     void keepLeastSize();
     QRect openingPlace() const;
-    void layOut();
+    void layOutWindow();
     void learnFrame();
 
     QIcon icon_;
     PictureCache& pictures_;
     FormSize formSize_;
-    ShownForm shown_;
+    WindowPlace& last_;
     std::optional<WindowFrame> frame_;
     ScaledStyle style_;
-    std::map<const PictureBox*, SurfaceWidget*> surfaces_;
     std::multimap<int, QWidget*> byTabIndex_;
 };
 

@@ -89,7 +89,7 @@ protected:
 } // namespace
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
-    : Desktop(std::move(application)), pictures_(std::move(painter), decoded) {
+    : WindowDesktop(std::move(application)), pictures_(std::move(painter), decoded) {
     for (const int size : iconSizes) {
         QtCanvas canvas({size, size}, windowColour);
         paint(canvas, App().Icon, canvas.bounds(), canvas.bounds(), pictures_);
@@ -103,9 +103,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
 }
 
 QtDesktop::~QtDesktop() {
-    for (const Shown& shown : windows_) {
-        delete shown.window;
-    }
+    clear();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     desktop(nullptr);
 }
@@ -116,44 +114,25 @@ void QtDesktop::run() const {
     }
 }
 
-void QtDesktop::Show(Form& form, Modality modality) {
-    const FormWindow* front = windowInFront();
-    FormWindow* window = windowOf(form);
-    if (window == nullptr) {
-        window = new FormWindow(form, modality, front != nullptr ? front->place() : lastPlace_, icon_, pictures_);
-    }
-    std::erase_if(windows_, [&](const Shown& shown) { return shown.form == &form; });
-    windows_.push_back({&form, window});
-    if (modality == Modality::Modeless) {
-        window->show();
-        return;
-    }
+std::shared_ptr<ShownForm> QtDesktop::open(Form& form, Modality modality) {
+    const FormWindow* front = inFront();
     if (front != nullptr) {
+        place_ = front->place();
+    }
+    // A handler of the window may still run when nobody keeps it any more.
+    const std::shared_ptr<FormWindow> window(new FormWindow(form, modality, place_, icon_, pictures_),
+                                             [](FormWindow* gone) { gone->deleteLater(); });
+    if (modality == Modality::Modal && front != nullptr) {
         window->windowHandle()->setTransientParent(front->windowHandle());
     }
-    window->show();
-    QEventLoop untilUnloaded;
-    QObject::connect(window, &QObject::destroyed, &untilUnloaded, &QEventLoop::quit);
-    {
-        const Modal modal(*this, &form);
-        untilUnloaded.exec();
-    }
-    giveInputBack();
+    return window;
 }
 
-void QtDesktop::Hide(Form& form) {
-    if (FormWindow* window = windowOf(form)) {
-        lastPlace_ = window->place();
-        window->hide();
-    }
-}
-
-void QtDesktop::Unload(Form& form) {
-    if (FormWindow* window = windowOf(form)) {
-        lastPlace_ = window->place();
-        window->retire();
-    }
-    std::erase_if(windows_, [&](const Shown& shown) { return shown.form == &form; });
+void QtDesktop::waitFor(ShownForm& window) {
+    QEventLoop untilRetired;
+    window.whenRetired = [&untilRetired] { untilRetired.quit(); };
+    untilRetired.exec();
+    window.whenRetired = nullptr;
 }
 
 // A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
@@ -169,34 +148,23 @@ void QtDesktop::Refresh(Form& form) {
         untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (window != nullptr) {
-        window->showPaintings();
+        for (ShownSurface* surface : window->surfaces()) {
+            surface->showNow();
+        }
         window->repaint();
     }
 }
 
-void QtDesktop::MousePointer(Form& form, Pointer pointer) {
-    if (FormWindow* window = windowOf(form)) {
-        window->setCursor(pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor);
-    }
-}
-
-void QtDesktop::MsgBox(const std::string& text, const std::string& caption) {
-    for (const Shown& shown : windows_) {
-        shown.window->showPaintings();
-    }
-    FormWindow* parent = windowInFront();
-    MessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption),
-                   QString::fromStdString(text).remove(QLatin1Char('\r')), QMessageBox::Ok, parent);
+void QtDesktop::showBox(const std::string& text, const std::string& caption) {
+    FormWindow* parent = inFront();
+    MessageBox box(QMessageBox::NoIcon, QString::fromStdString(caption), QString::fromStdString(text), QMessageBox::Ok,
+                   parent);
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    const ScreenRoom room = parent != nullptr ? parent->room() : roomOn(*box.screen(), lastPlace_.frame);
+    const ScreenRoom room = parent != nullptr ? parent->room() : roomOn(*box.screen(), place_.frame);
     fitToScale(box, parent != nullptr ? parent->scale() : 1, widestBox(room.inside().width()));
-    {
-        const Modal modal(*this);
-        box.exec();
-    }
-    giveInputBack();
+    box.exec();
 }
 
 void QtDesktop::End() {
@@ -204,39 +172,15 @@ void QtDesktop::End() {
     QApplication::exit();
 }
 
-void QtDesktop::changed(Control& control) {
-    if (FormWindow* window = windowOf(control.container().form())) {
-        window->changed(control);
-    }
-}
-
 void QtDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
-    Form& form = box.container().form();
+    const Form& form = box.container().form();
     if (FormWindow* window = windowOf(form)) {
-        SurfaceWidget* surface = window->surface(box);
+        auto* surface = static_cast<SurfaceWidget*>(window->surface(box));
         surface->changed();
         if (form.MousePointer() == Pointer::Hourglass) {
             surface->showNow();
         }
     }
-}
-
-void QtDesktop::giveInputBack() const {
-    for (const auto& [form, window] : windows_) {
-        window->inputIsBack();
-    }
-}
-
-FormWindow* QtDesktop::windowInFront() const {
-    const auto front =
-        std::find_if(windows_.rbegin(), windows_.rend(), [](const Shown& shown) { return shown.window->isVisible(); });
-    return front != windows_.rend() ? front->window.data() : nullptr;
-}
-
-FormWindow* QtDesktop::windowOf(const Form& form) const {
-    const auto place =
-        std::find_if(windows_.begin(), windows_.end(), [&](const Shown& shown) { return shown.form == &form; });
-    return place != windows_.end() ? place->window.data() : nullptr;
 }
 
 } // namespace tumble

@@ -73,7 +73,7 @@ double pixelRatio(const QWidget& widget) {
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
-    : QWidget(parent), box_(&box), hand_(box), shown_(box.painting(), pictures), focusRing_(new FocusRing(parent)) {
+    : QWidget(parent), ShownSurface(box, pictures), focusRing_(new FocusRing(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.listens());
     setAttribute(Qt::WA_AcceptTouchEvents, box.listens());
@@ -101,11 +101,6 @@ void SurfaceWidget::showNow() {
     }
 }
 
-void SurfaceWidget::retire() {
-    box_ = nullptr;
-    hand_.retire();
-}
-
 /// The device pixels that the widget covers, wherever its edges come to lie between them.
 PixelSize SurfaceWidget::pixelSize() const {
     const QSizeF exact = QSizeF(size()) * pixelRatio(*this);
@@ -115,13 +110,13 @@ PixelSize SurfaceWidget::pixelSize() const {
 /// Returns the part of the canvas that is another.
 PixelRect SurfaceWidget::bringUpToDate() {
     outOfDate_ = false;
-    if (box_ == nullptr) {
+    if (box() == nullptr) {
         return {};
     }
     if (!canvas_ || canvas_->size() != pixelSize()) {
-        canvas_.emplace(pixelSize(), box_->painting().ground());
+        canvas_.emplace(pixelSize(), box()->painting().ground());
     }
-    return shown_.bringUpToDate(*canvas_, box_->painting(), pixelScale());
+    return shown_.bringUpToDate(*canvas_, box()->painting(), pixelScale());
 }
 
 // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
@@ -170,28 +165,12 @@ void SurfaceWidget::showRing() {
 void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = keyOf(*event);
     const auto with = [event](Qt::KeyboardModifier held) { return event->modifiers().testFlag(held); };
-    event->setAccepted(key && box_ != nullptr && box_->listens() &&
-                       pointer_.key({.key = *key,
-                                     .shift = with(Qt::ShiftModifier),
-                                     .control = with(Qt::ControlModifier),
-                                     .alt = with(Qt::AltModifier),
-                                     .meta = with(Qt::MetaModifier),
-                                     .repeated = event->isAutoRepeat()}));
-    showRing();
-}
-
-void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
-    pointer_.press(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
-    showRing();
-}
-
-void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    pointer_.move(heldButtons(event->buttons()), shiftKeys(event->modifiers()), place(*event));
-    showRing();
-}
-
-void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
-    pointer_.release(buttonCode(event->button()), shiftKeys(event->modifiers()), place(*event));
+    event->setAccepted(key && ShownSurface::key({.key = *key,
+                                                 .shift = with(Qt::ShiftModifier),
+                                                 .control = with(Qt::ControlModifier),
+                                                 .alt = with(Qt::AltModifier),
+                                                 .meta = with(Qt::MetaModifier),
+                                                 .repeated = event->isAutoRepeat()}));
     showRing();
 }
 
@@ -200,9 +179,11 @@ Point SurfaceWidget::twips(QPointF inWidget) const {
     return {pixelScale().twips(pixel.x()), pixelScale().twips(pixel.y())};
 }
 
-// From the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
-Point SurfaceWidget::place(const QMouseEvent& event) const {
-    return twips(event.scenePosition() - mapTo(window(), QPoint()));
+// At the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
+void SurfaceWidget::mouse(const QMouseEvent& event) {
+    ShownSurface::mouse(buttonCode(event.button()), heldButtons(event.buttons()), shiftKeys(event.modifiers()),
+                        twips(event.scenePosition() - mapTo(window(), QPoint())));
+    showRing();
 }
 
 // A touch that is taken comes as no mouse event.
@@ -269,22 +250,15 @@ bool SurfaceWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
         (type != QEvent::MouseMove && type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)) {
         return false;
     }
-    auto& mouse = static_cast<QMouseEvent&>(*event);
-    const Qt::MouseButtons before = type == QEvent::MouseButtonPress     ? mouse.buttons() ^ mouse.button()
-                                    : type == QEvent::MouseButtonRelease ? mouse.buttons() | mouse.button()
-                                                                         : mouse.buttons();
-    forgotten_ = before != Qt::NoButton;
-    if (!forgotten_) {
+    const auto& mouseEvent = static_cast<const QMouseEvent&>(*event);
+    const Qt::MouseButtons before = type == QEvent::MouseButtonPress     ? mouseEvent.buttons() ^ mouseEvent.button()
+                                    : type == QEvent::MouseButtonRelease ? mouseEvent.buttons() | mouseEvent.button()
+                                                                         : mouseEvent.buttons();
+    forgotten_ = before != Qt::NoButton && mouseEvent.buttons() != Qt::NoButton;
+    if (before == Qt::NoButton) {
         return false;
     }
-    if (type == QEvent::MouseButtonPress) {
-        mousePressEvent(&mouse);
-    } else if (type == QEvent::MouseMove) {
-        mouseMoveEvent(&mouse);
-    } else {
-        forgotten_ = mouse.buttons() != Qt::NoButton;
-        mouseReleaseEvent(&mouse);
-    }
+    mouse(mouseEvent);
     return true;
 }
 
@@ -298,7 +272,7 @@ void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
         QMetaObject::invokeMethod(
             this,
             [this] {
-                hand_.letGo();
+                letGo();
                 showRing();
             },
             Qt::QueuedConnection);

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/Finger.h"
-#include "platform/ShownPainting.h"
+#include "platform/ShownSurface.h"
 #include "platform/qt/QtCanvas.h"
 
 #include <QBasicTimer>
@@ -18,7 +17,7 @@ double pixelRatio(const QWidget& widget);
 
 /// Shows a picture box's painting, in the exact pixels of the screen, and reports to it what mouse, keys and fingers
 /// do.
-class SurfaceWidget : public QWidget {
+class SurfaceWidget : public QWidget, public ShownSurface {
 public:
     SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent);
 
@@ -27,13 +26,8 @@ public:
 
     /// The painting has changed; it reaches the screen after the event, or with `showNow`.
     void changed();
-    void showNow();
-
-    /// A message box or modal window over this one has closed, and may have come up while a button was held.
-    void inputIsBack();
-
-    /// The box may be gone from now on; what shows stays.
-    void retire();
+    void showNow() override;
+    void inputIsBack() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,10 +36,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override { mouse(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mouse(*event); }
+    void mouseMoveEvent(QMouseEvent* event) override { mouse(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { mouse(*event); }
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -59,17 +53,12 @@ private:
     QRect logicalRect(const PixelRect& pixels) const;
     void placeFocusRing();
     Point twips(QPointF inWidget) const;
-    Point place(const QMouseEvent& event) const;
+    void mouse(const QMouseEvent& event);
     void touch(const QTouchEvent& event);
     void showRing();
 
-    PictureBox* box_; // null once retired
-    Hand hand_;
-    KeyboardPointer pointer_{hand_};
-    Finger finger_{pointer_};
     QBasicTimer longPress_;
-    std::optional<Ring> ring_; // as it shows
-    ShownPainting shown_;
+    std::optional<Ring> ring_;       // as it shows
     std::optional<QtCanvas> canvas_; // in device pixels, once it has been painted
     double scale_ = 1;
     bool outOfDate_ = false;

@@ -6,17 +6,20 @@
 // What it reports comes in at the end of WebDesktop.cpp.
 extern "C" {
 
-/// From now on the page reports what happens; its size at once.
+/// From now on the page reports what happens; its size soon.
 void page_listen();
 
-/// Adds a template of index.html. The number is that of its first element; those that follow have the next ones.
+/// Adds a template of index.html. The number stands for the whole of it, or for the part that is meant: an attribute or
+/// a property is that of the input or canvas in it, if there is one.
 int page_add(int parent, const char* name);
 /// With all that is in it; a number that is gone already is nothing.
 void page_remove(int element);
 void page_attribute(int element, const char* name, const char* value);
 void page_property(int element, const char* name, int value);
-void page_length(int element, const char* name, double pixels);
+/// How long a pixel of the unscaled form is in a window.
+void page_unit(int window, double pixels);
 void page_place(int element, int left, int top, int width, int height);
+/// Where nothing in it shows a caption, that is its name.
 void page_caption(int element, const char* text);
 void page_font(int element, double pixels, bool bold, int stretch);
 double page_textWidth(const char* text, double pixels, bool bold);
@@ -35,11 +38,11 @@ void page_resume();
 int page_canvasMake();
 void page_canvasSize(int canvas, int width, int height);
 void page_canvasClip(int canvas, int left, int top, int width, int height);
-void page_canvasFill(int canvas, int left, int top, int width, int height, std::int32_t colour);
-void page_canvasPath(int canvas, const double* transform, const void* steps, int count);
-void page_canvasFillPath(int canvas, std::int32_t colour);
-void page_canvasFillTexture(int canvas, int texture, int x, int y);
-void page_canvasStroke(int canvas, std::int32_t colour, double width, bool isRound);
+void page_canvasFill(int canvas, std::int32_t colour, int left, int top, int width, int height);
+// What a path is painted with; filled, unless it is stroked with a pen of some width.
+void page_canvasColour(int canvas, std::int32_t colour);
+void page_canvasTexture(int canvas, int texture, int x, int y);
+void page_canvasPath(int canvas, const double* transform, const void* steps, int count, double width, bool isRound);
 void page_canvasDraw(int canvas, int from, int left, int top, int width, int height, int x, int y, bool isMirrored,
                      bool isUpsideDown);
 }

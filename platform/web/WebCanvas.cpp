@@ -32,29 +32,30 @@ void WebCanvas::clip(const PixelRect& block) {
 
 void WebCanvas::fill(const PixelRect& block, Colour colour) {
     if (!block.empty()) {
-        page_canvasFill(element_, block.left, block.top, block.width(), block.height(), colour);
+        page_canvasFill(element_, colour, block.left, block.top, block.width(), block.height());
     }
 }
 
-void WebCanvas::takeUp(const Path& path, const Transform& toPixels) const {
-    static_assert(sizeof(Transform) == 6 * sizeof(double) && sizeof(Path::Step) == 7 * sizeof(double) &&
-                  offsetof(Path::Step, to) == sizeof(double) && offsetof(Path::Step, bends) == 3 * sizeof(double));
-    page_canvasPath(element_, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()));
-}
-
 void WebCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
-    takeUp(path, toPixels);
-    page_canvasFillPath(element_, colour);
+    page_canvasColour(element_, colour);
+    paint(path, toPixels);
 }
 
 void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
-    takeUp(path, toPixels);
-    page_canvasFillTexture(element_, static_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
+    page_canvasTexture(element_, static_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
+    paint(path, toPixels);
 }
 
 void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    takeUp(path, toPixels);
-    page_canvasStroke(element_, pen.colour, pen.width, pen.nib == Nib::Round);
+    page_canvasColour(element_, pen.colour);
+    paint(path, toPixels, pen.width, pen.nib == Nib::Round);
+}
+
+void WebCanvas::paint(const Path& path, const Transform& toPixels, double width, bool isRound) const {
+    static_assert(sizeof(Transform) == 6 * sizeof(double) && sizeof(Path::Step) == 7 * sizeof(double) &&
+                  offsetof(Path::Step, to) == sizeof(double) && offsetof(Path::Step, bends) == 3 * sizeof(double));
+    page_canvasPath(element_, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()), width,
+                    isRound);
 }
 
 void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {

@@ -4,7 +4,8 @@
 
 namespace tumble {
 
-/// A canvas element of the page, or one that never shows. Draws none but its like.
+/// A canvas element of the page, or one that never shows. Draws none but its like. The window's colour is no paint: the
+/// page shows there.
 class WebCanvas : public Canvas {
 public:
     WebCanvas(PixelSize size, std::optional<Colour> ground);
@@ -12,6 +13,7 @@ public:
     explicit WebCanvas(int element) : element_(element) {}
     ~WebCanvas() override;
 
+    int element() const { return element_; }
     /// Empties it.
     void resize(PixelSize size);
 
@@ -25,7 +27,8 @@ public:
     void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
 
 private:
-    void takeUp(const Path& path, const Transform& toPixels) const;
+    /// Fills, or strokes with a pen of a width.
+    void paint(const Path& path, const Transform& toPixels, double width = 0, bool isRound = false) const;
 
     int element_;
     PixelSize size_;

@@ -1,15 +1,14 @@
 // What the page does for the program, and what it reports to it: nothing is decided here. The program knows elements by
 // numbers, lengths in pixels of the screen.
-/* global _page_accessKey, _page_input, _page_key, _page_longPress, _page_pointer, _page_recoloured, _page_resized */
-/* global _page_shown, _page_start, Asyncify, HEAP32, HEAPF64, UTF8ToString */
+/* global _page_finger, _page_input, _page_key, _page_letGo, _page_mouse, _page_resized, _page_start */
+/* global Asyncify, HEAP32, HEAPF64, UTF8ToString */
 'use strict';
 
 const page = {
-  elements: {},
-  last: 0, // number given
+  elements: [], // by their numbers, which are their ids
   ratio: 1, // pixels of the screen for each of the page
-  ground: '', // the window's colour
-  ruler: null,
+  colours: {},
+  ruler: document.createElement('canvas').getContext('2d'),
   held: null, // the picture box on which a button went down that is still held
   began: null, // the one on which the last press or touch began; null: elsewhere
   pressTime: 0,
@@ -17,61 +16,65 @@ const page = {
   // In the order of the program's.
   keys: ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown', 'Home', 'PageUp', 'End', 'PageDown', ' ', 'f',
     'ContextMenu', 'F10', 'Enter', 'Escape', 'F1'],
-  pointerEvents: ['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], // likewise
+  touches: ['pointerdown', 'pointermove', 'pointerup'], // likewise; then the long press
+  buttons: [1, 4, 2], // the program's: left, middle, right
 
   number(element) {
-    element.number = ++page.last;
-    page.elements[page.last] = element;
-    return page.last;
+    element.act = element.querySelector('input, canvas') ?? element; // what the player acts on
+    element.id = page.elements.push(element) - 1;
+    return element.id;
   },
   css: (pixels) => `${pixels / page.ratio}px`,
-  colours: {},
-  colour: (bgr) => bgr < 0 ? page.ground
-    : page.colours[bgr] ??= `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
-  context: (canvas) => page.elements[canvas].context,
+  colour: (bgr) => page.colours[bgr] ??= `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
+  context: (canvas) => page.elements[canvas].act.context,
   shiftKeys: (event) => event.shiftKey + 2 * event.ctrlKey + 4 * event.altKey + 8 * event.metaKey,
 
   key(event) {
-    const name = event.key.length === 1 ? event.key.toLowerCase() : event.key;
-    const key = page.keys.indexOf(name);
+    const key = page.keys.indexOf(event.key.length === 1 ? event.key.toLowerCase() : event.key);
     const letter = event.altKey && !event.ctrlKey && /^Key.$/.test(event.code) && event.code.charCodeAt(3);
-    const unknown = letter ? !event.repeat && _page_accessKey(letter) : key < 0
-      || _page_key(document.activeElement.number ?? 0, key, page.shiftKeys(event), event.repeat);
+    const focus = document.activeElement.closest('[id]')?.id;
+    const unknown = _page_key(focus, key, letter, page.shiftKeys(event), event.repeat);
     unknown || event.preventDefault();
   },
   // The document hears of a held button whatever has come up meanwhile, and beyond its edges.
   pointer(event) {
-    const {type, pointerId, pointerType, button, buttons} = event;
+    const {type, pointerType, pointerId, button, buttons} = event;
     const touches = pointerType === 'touch';
     const box = !touches && page.held || event.target.closest?.('.surface');
     if (type === 'pointerdown') {
       page.began = box;
-      box?.focus({preventScroll: true});
+      box?.act.focus({preventScroll: true});
       page.held = touches ? page.held : box;
     }
-    if (!buttons) {
-      page.held = null;
-    }
-    if (!box?.isConnected) {
+    page.held = buttons ? page.held : null;
+    if (!box) {
       return;
     }
     if (type !== 'pointermove') {
       clearTimeout(page.pressTime);
       box.corner = null;
     }
-    if (type === 'pointerdown' && touches) {
-      page.pressTime = setTimeout(_page_longPress, 600, box.number);
-    }
     const {left, top} = box.corner ??= box.getBoundingClientRect(); // too slow for each move
-    _page_pointer(box.number, page.pointerEvents.indexOf(type), touches, pointerId, button, buttons,
-      page.shiftKeys(event) & 7, (event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio);
+    const place = [(event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio];
+    if (!touches) {
+      _page_mouse(box.id, page.buttons[button] ?? 0, buttons & 7, page.shiftKeys(event) & 7, ...place);
+      return;
+    }
+    if (type === 'pointerdown') {
+      page.pressTime = setTimeout(_page_finger, 600, box.id, page.touches.length, pointerId, ...place);
+    }
+    _page_finger(box.id, page.touches.indexOf(type), pointerId, ...place);
   },
   listen() {
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
     on(['keydown'], page.key);
     on(['keydown'], ({key}) => /^(Tab|Arrow)/.test(key) && document.body.classList.add('keys'));
     on(['pointerdown'], () => document.body.classList.remove('keys'));
-    on(page.pointerEvents, page.pointer);
+    on(page.touches, page.pointer);
+    on(['pointercancel', 'visibilitychange'], () => {
+      page.held = null;
+      document.hidden || _page_letGo();
+    });
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
     // What is no control takes no focus.
     on(['mousedown'], (event) => event.target.closest?.('button, label, input, a') ?? event.preventDefault());
@@ -79,41 +82,23 @@ const page = {
     on(['click', 'input'], ({target, detail}) => {
       const element = !(detail && page.began) && target.closest?.('button, input');
       page.began = null;
-      element && _page_input(element.number, element.valueAsNumber || 0);
+      element && _page_input(element.closest('[id]').id, element.valueAsNumber || 0);
     });
     on(['cancel', 'close'], (event) => {
       event.preventDefault();
-      _page_key(0, page.keys.indexOf('Escape'), 0, false);
-    });
-    on(['visibilitychange'], () => {
-      page.held = null;
-      document.hidden || _page_shown();
-    });
-    const learnColours = () => {
-      page.ground = getComputedStyle(document.body).backgroundColor;
-    };
-    learnColours();
-    matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () => {
-      learnColours();
-      _page_recoloured();
+      _page_key(0, page.keys.indexOf('Escape'), 0, 0, false);
     });
 
-    const main = page.elements[0] = document.querySelector('main');
+    const main = document.querySelector('main');
     main.replaceChildren();
+    page.number(main);
     // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
-    let shown = '';
-    const resized = ({width, height}, told) => {
+    const observer = new ResizeObserver(([{contentRect: {width, height}, devicePixelContentBoxSize: told}]) => {
       // On fewer pixels than the smallest scale needs, what is shown is shrunk.
-      const shrunk = Math.max(1, 480 / (width * devicePixelRatio), 336 / (height * devicePixelRatio));
-      page.ratio = devicePixelRatio * shrunk;
-      const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
-      if (shown !== (shown = `${size} ${page.ratio}`)) {
-        _page_resized(...size);
-      }
-    };
-    resized(main.getBoundingClientRect());
-    const observer = new ResizeObserver(([entry]) => resized(entry.contentRect, entry.devicePixelContentBoxSize?.[0]));
+      page.ratio = Math.max(devicePixelRatio, 480 / width, 336 / height);
+      _page_resized(exact(told?.[0].inlineSize, width * page.ratio), exact(told?.[0].blockSize, height * page.ratio));
+    });
     const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
     const observe = () => { // anew at another zoom, and on another screen
       observer.disconnect();
@@ -127,61 +112,62 @@ const page = {
   // Elements.
 
   add(parent, name) {
-    const {content} = document.getElementById(UTF8ToString(name)).cloneNode(true);
-    const [first] = [...content.querySelectorAll('*')].map(page.number);
-    page.elements[parent].append(content);
-    return first;
+    const element = document.getElementById(UTF8ToString(name)).content.firstElementChild.cloneNode(true);
+    page.elements[parent].append(element);
+    page.number(element);
+    element.act.name = parent; // one choice for each container
+    return element.id;
   },
   remove(number) {
     const element = page.elements[number];
     element?.close?.();
     element?.remove();
-    for (const inside of [element, ...element?.querySelectorAll('*') ?? []]) {
-      delete page.elements[inside?.number];
-    }
+    element?.querySelectorAll('[id]').forEach(({id}) => page.remove(id));
+    page.elements[number] = null;
   },
   attribute(number, name, value) {
-    page.elements[number].setAttribute(UTF8ToString(name), UTF8ToString(value));
+    page.elements[number].act.setAttribute(UTF8ToString(name), UTF8ToString(value));
   },
   property(number, name, value) {
-    page.elements[number][UTF8ToString(name)] = value;
+    page.elements[number].act[UTF8ToString(name)] = value;
   },
-  length(number, name, pixels) {
-    page.elements[number].style.setProperty(UTF8ToString(name), page.css(pixels));
+  unit(number, pixels) {
+    page.elements[number].style.setProperty('--unit', page.css(pixels));
   },
   place(number, left, top, width, height) {
     const element = page.elements[number];
-    const {style} = element;
     element.corner = null;
-    [style.left, style.top, style.width, style.height] = [left, top, width, height].map(page.css);
+    Object.assign(element.style, {left: page.css(left), top: page.css(top)});
+    Object.assign(element.style, {width: page.css(width), height: page.css(height)});
   },
   // The ampersand marks the access key.
   caption(number, text) {
     const element = page.elements[number];
-    const caption = UTF8ToString(text).replaceAll('\r', '');
+    const caption = UTF8ToString(text);
     if (element.caption === caption) {
       return; // a live region would say it again
     }
     element.caption = caption;
-    const [before, after] = caption.split('&');
+    const shows = element.querySelector('span');
+    const [before, letter, after] = caption.split(/&(\w)/);
     const mark = document.createElement('u');
-    mark.textContent = after?.[0];
-    element.replaceChildren(before, ...after ? [mark, after.slice(1)] : []);
+    mark.textContent = letter;
+    shows?.replaceChildren(before, ...letter ? [mark, after] : []);
+    shows ?? element.act.setAttribute('aria-label', caption);
   },
   font(number, pixels, bold, stretch) {
-    const {style} = page.elements[number];
+    const {style} = page.elements[number].querySelector('span');
     style.fontWeight = bold ? 'bold' : '';
     style.fontSize = page.css(pixels);
     style.width = stretch < 100 ? `${10000 / stretch}%` : '';
     style.transform = stretch < 100 ? `scaleX(${stretch}%)` : '';
   },
   textWidth(text, pixels, bold) {
-    page.ruler ??= document.createElement('canvas').getContext('2d');
     page.ruler.font = `${bold ? 'bold ' : ''}${pixels}px system-ui,sans-serif`;
     return page.ruler.measureText(UTF8ToString(text)).width;
   },
   focus(number) {
-    page.elements[number].focus({preventScroll: true});
+    page.elements[number].act.focus({preventScroll: true});
   },
   show(number) {
     const element = page.elements[number];
@@ -192,7 +178,7 @@ const page = {
     } else {
       document.title = element.ariaLabel;
     }
-    element.querySelector('.surface[tabindex], button').focus();
+    element.querySelector('canvas[tabindex], button').focus();
   },
   over() {
     document.body.classList.add('over');
@@ -201,33 +187,22 @@ const page = {
 
   // Waiting.
 
-  suspend() {
-    return Asyncify.handleSleep((wakeUp) => {
-      page.wakeUp = wakeUp;
-    });
-  },
-  resume() {
-    queueMicrotask(page.wakeUp);
-  },
+  suspend: () => Asyncify.handleAsync(() => new Promise((wakeUp) => {
+    page.wakeUp = wakeUp;
+  })),
+  resume: () => page.wakeUp(),
   // A hidden page gets no frames.
-  frame() {
-    return Asyncify.handleSleep((wakeUp) => {
-      let waits = true;
-      const once = () => waits && (waits = false, wakeUp());
-      requestAnimationFrame(() => setTimeout(once));
-      setTimeout(once, document.hidden ? 0 : 100);
-    });
-  },
+  frame: () => Asyncify.handleAsync(() => new Promise((wakeUp) => {
+    requestAnimationFrame(() => setTimeout(wakeUp));
+    setTimeout(wakeUp, document.hidden ? 0 : 100);
+  })),
 
-  // Canvases.
+  // Canvases. Between two calls nothing is transformed.
 
-  canvasMake() {
-    return page.number(document.createElement('canvas'));
-  },
-  // Between two calls nothing is transformed.
+  canvasMake: () => page.number(document.createElement('canvas')),
   canvasSize(canvas, width, height) {
-    const element = page.elements[canvas];
-    [element.width, element.height] = [width, height];
+    const element = page.elements[canvas].act;
+    Object.assign(element, {width, height});
     element.context = element.getContext('2d');
     element.context.imageSmoothingEnabled = false;
     element.context.save();
@@ -240,14 +215,26 @@ const page = {
     context.rect(left, top, width, height);
     context.clip();
   },
-  canvasFill(canvas, left, top, width, height, colour) {
+  canvasColour(canvas, colour) {
     const context = page.context(canvas);
-    context.fillStyle = page.colour(colour);
-    context.fillRect(left, top, width, height);
+    context.fillStyle = context.strokeStyle = page.colour(colour);
   },
-  // Takes up a path to fill or to stroke, and leaves it transformed: for each step seven numbers of eight bytes, of
-  // which the first is a whole one of four.
-  canvasPath(canvas, transform, steps, count) {
+  canvasTexture(canvas, texture, x, y) {
+    const context = page.context(canvas);
+    context.fillStyle = context.createPattern(page.elements[texture], 'repeat');
+    context.fillStyle.setTransform({e: x, f: y});
+  },
+  canvasFill(canvas, colour, left, top, width, height) {
+    const context = page.context(canvas);
+    if (colour < 0) { // the window's
+      context.clearRect(left, top, width, height);
+    } else {
+      context.fillStyle = page.colour(colour);
+      context.fillRect(left, top, width, height);
+    }
+  },
+  // For each step seven numbers of eight bytes, of which the first is a whole one of four.
+  canvasPath(canvas, transform, steps, count, width, round) {
     const context = page.context(canvas);
     const n = HEAPF64;
     let at = transform >> 3;
@@ -261,37 +248,18 @@ const page = {
         default: context.closePath();
       }
     }
-  },
-  canvasFillPath(canvas, colour) {
-    const context = page.context(canvas);
-    context.fillStyle = page.colour(colour);
-    context.fill();
+    if (width) {
+      const [lineCap, lineJoin] = round ? ['round', 'round'] : ['butt', 'miter'];
+      Object.assign(context, {lineWidth: width, lineCap, lineJoin}).stroke();
+    }
     context.resetTransform();
-  },
-  canvasFillTexture(canvas, texture, x, y) {
-    const context = page.context(canvas);
-    context.setTransform(1, 0, 0, 1, x, y);
-    context.fillStyle = context.createPattern(page.elements[texture], 'repeat');
-    context.fill();
-    context.resetTransform();
-  },
-  canvasStroke(canvas, colour, width, round) {
-    const context = page.context(canvas);
-    context.strokeStyle = page.colour(colour);
-    context.lineWidth = width;
-    context.lineCap = round ? 'round' : 'butt';
-    context.lineJoin = round ? 'round' : 'miter';
-    context.stroke();
-    context.resetTransform();
+    if (!width) {
+      context.fill();
+    }
   },
   canvasDraw(canvas, from, left, top, width, height, x, y, mirrored, upsideDown) {
     const context = page.context(canvas);
-    if (!mirrored && !upsideDown) {
-      context.drawImage(page.elements[from], left, top, width, height, x, y, width, height);
-      return;
-    }
-    context.setTransform(mirrored ? -1 : 1, 0, 0, upsideDown ? -1 : 1, x + (mirrored ? width : 0),
-      y + (upsideDown ? height : 0));
+    context.setTransform(1 - 2 * mirrored, 0, 0, 1 - 2 * upsideDown, x + mirrored * width, y + upsideDown * height);
     context.drawImage(page.elements[from], left, top, width, height, 0, 0, width, height);
     context.resetTransform();
   },

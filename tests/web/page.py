@@ -98,7 +98,8 @@ class Page(Player):
         self.in_front("Tumble")
 
     def wait_for_form(self, control):
-        wait(control, lambda: self.ask(f"!!document.querySelector('[data-name={control}]')?.clientWidth"))
+        """Waits until a button shows in its place."""
+        wait(control, lambda: self.ask(f"!!document.querySelector('[data-name={control}]')?.style.width"))
 
     def in_front(self, title):
         """Waits until the dialog with the title is open, or none over the form with it, and the deal is over."""
@@ -202,7 +203,8 @@ class Page(Player):
 
     def box(self):
         """Title and text of the dialog that is open."""
-        return self.ask("[...document.querySelectorAll('dialog h1, dialog p')].map(part => part.innerText)")
+        return self.ask("""[...document.querySelectorAll('dialog')].flatMap(dialog =>
+            [dialog.ariaLabel, ...[...dialog.querySelectorAll(':scope > span')].map(text => text.innerText)])""")
 
     def focus(self):
         return self.ask("(e => e.dataset.name ?? e.parentElement.dataset.name ?? e.innerText)(document.activeElement)")

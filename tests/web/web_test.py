@@ -77,11 +77,11 @@ class WebTest(Scenarios, unittest.TestCase):
             tabs.append(page.focus())
             page.key("Tab")
         self.assertEqual(tabs, ["cmdPlay", "cmdExit", "optCardNormal", "sldBackDesign", "optNaturalOrder"])
-        page.ask("document.querySelector('[data-name=sldBackDesign] input').focus()")
+        page.ask("document.querySelector('[data-name=sldBackDesign]').focus()")
         for key, value in (("ArrowDown", "2"), ("ArrowRight", "3"), ("ArrowUp", "2"), ("End", "4"), ("ArrowDown", "4")):
             page.key(key)
             self.assertEqual(page.ask("document.activeElement.value"), value)
-        page.ask("document.querySelector('[data-name=optDeckStandard] input').focus()")
+        page.ask("document.querySelector('[data-name=optDeckStandard]').focus()")
         for key, choice in (("ArrowUp", "optDeckStandard"), ("ArrowDown", "optDeckStandardWithJokers"),
                             ("ArrowDown", "optDeck36Card"), ("ArrowUp", "optDeckStandardWithJokers")):
             page.key(key)
@@ -101,9 +101,9 @@ class WebTest(Scenarios, unittest.TestCase):
         for key, repeated in ((" ", False), (" ", True), ("End", True)):
             page.key(key, repeated)
         self.assertEqual(page.label(), card)
-        self.assertTrue(page.ask("document.querySelector('.ring').clientWidth > 0"))
+        self.assertTrue(page.ask("document.querySelector('[data-name=picTable] + .mark').clientWidth > 0"))
         page.mouse(FREE, BELOW)
-        self.assertFalse(page.ask("document.querySelector('.ring').clientWidth > 0"))
+        self.assertFalse(page.ask("document.querySelector('[data-name=picTable] + .mark').clientWidth > 0"))
 
     def test_deal_shows_the_hourglass_and_goes_on_while_the_page_is_hidden(self):
         page = self.start()
@@ -185,7 +185,7 @@ class WebTest(Scenarios, unittest.TestCase):
 
         def check(place, light, dark):
             """Looks at the page, at the window and at another place."""
-            places = [corner("main"), corner(".window"), place]
+            places = [corner("main"), corner(".content"), place]
             for theme, *colours in (("light", (199,) * 3, (239,) * 3, light), ("dark", (36,) * 3, (50,) * 3, dark)):
                 page.tell("Emulation.setEmulatedMedia", features=[{"name": "prefers-color-scheme", "value": theme}])
                 wait(theme, lambda: [page.photograph().getpixel((int(x), int(y))) for x, y in places] == colours)
