@@ -41,12 +41,9 @@ bool isArrow(Key key) {
 }
 
 bool isPointers(const KeyPress& press) {
-    return press.key <= Key::F10 && !press.alt && !press.meta &&
-           (!press.control || (press.shift && isArrow(press.key))) && (press.key != Key::F10 || press.shift);
-}
-
-std::int16_t shiftKeys(const KeyPress& press) {
-    return static_cast<std::int16_t>((press.shift ? 1 : 0) + (press.control ? 2 : 0));
+    return press.key <= Key::F10 && !press.with(altKey | metaKey) &&
+           (!press.with(controlKey) || (press.with(shiftKey) && isArrow(press.key))) &&
+           (press.key != Key::F10 || press.with(shiftKey));
 }
 
 } // namespace
@@ -60,7 +57,7 @@ bool KeyboardPointer::key(const KeyPress& press) {
     if (!hand_.takesInput() || mouseHolds || (press.repeated && actsOnce(press.key))) {
         return true;
     }
-    const std::int16_t Shift = shiftKeys(press);
+    const std::int16_t Shift = press.Shift;
     if (!shows_) {
         show();
         moveTo(*at_, Shift);
@@ -121,10 +118,10 @@ Point KeyboardPointer::goal(const KeyPress& press) const {
         places.push_back(*at_); // whose item is no stop
         return *stopNearest(places, {x < 0 ? in.left : in.right, y < 0 ? in.top : in.bottom});
     }
-    if (!press.shift) {
+    if (!press.with(shiftKey)) {
         return stopTowards(stopsNow(), *at_, {x, y}).value_or(*at_);
     }
-    const float step = (press.control ? 1 : 10) * twipsPerPixel;
+    const float step = (press.with(controlKey) ? 1 : 10) * twipsPerPixel;
     return {std::max(in.left, std::min(at_->x + step * x, in.right)),
             std::max(in.top, std::min(at_->y + step * y, in.bottom))};
 }

@@ -10,14 +10,19 @@ namespace tumble {
 /// wherever they lie. `Other` is any that means nothing by itself.
 enum class Key { Left, Up, Right, Down, Home, PageUp, End, PageDown, Space, F, Menu, F10, Enter, Esc, F1, F11, Other };
 
+// Those held with others, as a picture box is told of them; of the last one it is not.
+inline constexpr std::int16_t shiftKey = 1;
+inline constexpr std::int16_t controlKey = 2;
+inline constexpr std::int16_t altKey = 4;
+inline constexpr std::int16_t metaKey = 8;
+
 struct KeyPress {
     Key key;
-    bool shift = false;
-    bool control = false;
-    bool alt = false;
-    bool meta = false;
-    bool repeated = false; // by the keyboard, as the key is held
-    char letter = 0;       // an access key's, a capital, if that is what the keys together stand for
+    std::int16_t Shift = 0; // the sum of those held with it
+    bool repeated = false;  // by the keyboard, as the key is held
+    char letter = 0;        // an access key's, a capital, if that is what the keys together stand for
+
+    bool with(std::int16_t keys) const { return (Shift & keys) != 0; }
 };
 
 /// Whether the key acts once, however long it is held.

@@ -12,9 +12,22 @@ ShownSurface* ShownForm::surface(const PictureBox& box) const {
 }
 
 PixelSize ShownForm::roomFor(const Control& control) const {
-    const auto each =
-        std::find_if(controls_.begin(), controls_.end(), [&](const Each& other) { return other.control == &control; });
-    return each != controls_.end() ? layout_.pixels(each->room).size() : PixelSize();
+    return layout_.pixels(each(control).room).size();
+}
+
+int ShownForm::elementOf(const Control& control) const {
+    return each(control).shown.element;
+}
+
+const ShownForm::Each& ShownForm::each(const Control& control) const {
+    return *std::find_if(controls_.begin(), controls_.end(),
+                         [&](const Each& other) { return &asControl(other.control) == &control; });
+}
+
+std::optional<AnyControl> ShownForm::control(int element) const {
+    const auto each = std::find_if(controls_.begin(), controls_.end(),
+                                   [&](const Each& other) { return other.shown.element == element; });
+    return each != controls_.end() ? std::optional(each->control) : std::nullopt;
 }
 
 void ShownForm::add(const AnyControl& control, ShownControl shown) {
@@ -22,7 +35,7 @@ void ShownForm::add(const AnyControl& control, ShownControl shown) {
         if constexpr (requires { captionStyle(*each); }) {
             captions_.add(*each, captionStyle(*each), shown.captionRoom, shown.setFont);
         }
-        controls_.push_back({each, roomOf(*each), std::move(shown)});
+        controls_.push_back({control, roomOf(*each), std::move(shown)});
     };
     std::visit(add, control);
 }
@@ -38,7 +51,7 @@ void ShownForm::layOut(const Layout& layout) {
 
 void ShownForm::changed(const Control& control) const {
     for (const Each& each : controls_) {
-        if (each.control == &control) {
+        if (&asControl(each.control) == &control) {
             each.shown.update();
         }
     }
@@ -63,6 +76,12 @@ void ShownForm::retire() {
     }
 }
 
+void ShownForm::input(int element, int value) const {
+    if (const auto any = control(element)) {
+        input(*any, value);
+    }
+}
+
 void ShownForm::input(const AnyControl& control, int value) const {
     if (form_ == nullptr) {
         return;
@@ -80,7 +99,7 @@ void ShownForm::input(const AnyControl& control, int value) const {
     }
 }
 
-bool ShownForm::key(const AnyControl* focused, const KeyPress& press) {
+bool ShownForm::key(int focused, const KeyPress& press) {
     if (press.letter != 0) {
         return press.repeated || form_->pressAccessKey(press.letter);
     }
@@ -90,15 +109,16 @@ bool ShownForm::key(const AnyControl* focused, const KeyPress& press) {
         }
         return true;
     }
-    if (focused == nullptr || press.key == Key::Other) {
+    const auto any = control(focused);
+    if (!any || press.key == Key::Other) {
         return false;
     }
-    if (auto* const* box = std::get_if<PictureBox*>(focused)) {
+    if (auto* const* box = std::get_if<PictureBox*>(&*any)) {
         return surface(**box)->key(press);
     }
-    const auto now = tumble::press(*focused, press.key);
-    if (now) {
-        focus(*now);
+    const auto now = tumble::press(*any, press.key);
+    if (now && form_ != nullptr) {
+        focus(elementOf(asControl(*now)));
     }
     return now.has_value();
 }

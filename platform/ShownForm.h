@@ -5,6 +5,7 @@
 #include "platform/ShownSurface.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct ShownControl {
     // Of a control that shows its caption:
     Captions::Room captionRoom{};
     Captions::SetFont setFont{};
+    /// The toolkit's number of what shows it, if there are such.
+    int element = 0;
 };
 
 /// A form as a window shows it: the role that a desktop's window fills, and what does not depend on what the window is
@@ -39,6 +42,12 @@ public:
     const std::vector<ShownSurface*>& surfaces() const { return surfaces_; }
     ShownSurface* surface(const PictureBox& box) const;
 
+    /// What the player does to the control that an element shows, as below; nothing for other elements.
+    void input(int element, int value) const;
+    /// What a key does where the toolkit leaves it to the form; false for a key that means nothing. The focus may be
+    /// elsewhere than at an element of the form.
+    bool key(int focused, const KeyPress& press);
+
     /// Shows a control's new state.
     void changed(const Control& control) const;
     /// Comes off the screen for good. The form may be gone from now on, and hears no more; the window itself goes when
@@ -56,26 +65,27 @@ protected:
     void layOut(const Layout& layout);
     void scale(double scale) { layout_.scale = scale; }
     const PixelRect& content() const { return layout_.content; }
-    /// The pixels that the control has.
+    // Of a control that was added: the pixels that it has, and what shows it.
     PixelSize roomFor(const Control& control) const;
+    int elementOf(const Control& control) const;
 
     /// The player clicks the button, chooses the option or moves the slider to a value. A toolkit shows that before
     /// anybody is asked: where nothing came of it, what holds shows again.
     void input(const AnyControl& control, int value = 0) const;
-    /// What a key does where the toolkit leaves it to the form; false for a key that means nothing. `focused` is null
-    /// where no control has the focus.
-    bool key(const AnyControl* focused, const KeyPress& press);
-    /// Gives the focus to a control, which a key has led to.
-    virtual void focus(const AnyControl& /*control*/) {}
+    /// Gives the focus to an element, to which a key has led.
+    virtual void focus(int /*element*/) {}
 
 private:
-    void updateAll() const;
-
     struct Each {
-        const Control* control;
+        AnyControl control;
         Place room;
         ShownControl shown;
     };
+
+    void updateAll() const;
+    const Each& each(const Control& control) const;
+    /// None for an element that shows none.
+    std::optional<AnyControl> control(int element) const;
 
     Form* form_;
     Layout layout_;

@@ -3,12 +3,13 @@
 namespace tumble {
 
 void ShownSurface::mouse(std::int16_t changed, std::int16_t held, std::int16_t Shift, Point at) {
+    const auto keys = static_cast<std::int16_t>(Shift & (shiftKey | controlKey | altKey));
     if (changed == 0) {
-        pointer_.move(held, Shift, at);
+        pointer_.move(held, keys, at);
     } else if ((held & changed) != 0) {
-        pointer_.press(changed, Shift, at);
+        pointer_.press(changed, keys, at);
     } else {
-        pointer_.release(changed, Shift, at);
+        pointer_.release(changed, keys, at);
     }
 }
 

@@ -25,7 +25,7 @@ public:
     virtual void inputIsBack() {}
 
     /// The button that goes down or up, 0 for a move, and the sum of those that are down afterwards, as a box's
-    /// handlers get them.
+    /// handlers get them; the keys held with them.
     void mouse(std::int16_t changed, std::int16_t held, std::int16_t Shift, Point at);
     /// A finger by its number; the start-drag distance in twips.
     void finger(FingerEvent event, int number, Point at, float startDragDistance);

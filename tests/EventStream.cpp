@@ -135,12 +135,10 @@ private:
     void key() {
         const unsigned key = next() % 12;
         const unsigned with = next();
-        table_.pointer.key({.key = static_cast<Key>(key),
-                            .shift = with % 4 == 3,
-                            .control = with % 8 == 7,
-                            .alt = with >= 250,
-                            .meta = with >= 253,
-                            .repeated = with % 5 == 4});
+        const int Shift = (with % 4 == 3 ? shiftKey : 0) + (with % 8 == 7 ? controlKey : 0) +
+                          (with >= 250 ? altKey : 0) + (with >= 253 ? metaKey : 0);
+        table_.pointer.key(
+            {.key = static_cast<Key>(key), .Shift = static_cast<std::int16_t>(Shift), .repeated = with % 5 == 4});
         const auto ring = table_.pointer.ring();
         require(!ring || canBeAStop(ring->at), "the keyboard's pointer lies where it cannot");
     }

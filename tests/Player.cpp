@@ -94,7 +94,8 @@ private:
     Key across(Point to) const { return to.x < at().x ? Key::Left : Key::Right; }
     Key along(Point to) const { return to.y < at().y ? Key::Up : Key::Down; }
     void key(Key key, float step = 0) {
-        require(table_.pointer.key({.key = key, .shift = step != 0, .control = step == 15}), "no key of the pointer");
+        const int Shift = step == 0 ? 0 : step == 15 ? shiftKey | controlKey : shiftKey;
+        require(table_.pointer.key({.key = key, .Shift = static_cast<std::int16_t>(Shift)}), "no key of the pointer");
         require(++keys_ < 50000, "no way");
     }
 

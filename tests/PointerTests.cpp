@@ -172,13 +172,13 @@ private:
         static const std::vector<std::string> names{"Left", "Up",       "Right", "Down", "Home", "PageUp",
                                                     "End",  "PageDown", "Space", "F",    "Menu", "F10"};
         const auto name = std::find(names.begin(), names.end(), word.substr(word.rfind('+') + 1));
-        const auto with = [&](const char* prefix) { return word.find(prefix) != std::string::npos; };
+        const auto with = [&](const char* prefix, int held = 1) {
+            return word.find(prefix) != std::string::npos ? held : 0;
+        };
+        const int Shift = with("Shift+", 1) + with("Ctrl+", 2) + with("Alt+", 4) + with("Meta+", 8);
         return pointer_.key({.key = static_cast<Key>(name - names.begin()),
-                             .shift = with("Shift+"),
-                             .control = with("Ctrl+"),
-                             .alt = with("Alt+"),
-                             .meta = with("Meta+"),
-                             .repeated = with("held+")});
+                             .Shift = static_cast<std::int16_t>(Shift),
+                             .repeated = with("held+") != 0});
     }
 
     KeyboardPointer pointer_{hand};

@@ -59,10 +59,11 @@ std::int16_t heldButtons(Qt::MouseButtons held) {
 }
 
 std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
-    const int shift = keys.testFlag(Qt::ShiftModifier) ? 1 : 0;
-    const int control = keys.testFlag(Qt::ControlModifier) ? 2 : 0;
-    const int alt = keys.testFlag(Qt::AltModifier) ? 4 : 0;
-    return static_cast<std::int16_t>(shift + control + alt);
+    const int shift = keys.testFlag(Qt::ShiftModifier) ? shiftKey : 0;
+    const int control = keys.testFlag(Qt::ControlModifier) ? controlKey : 0;
+    const int alt = keys.testFlag(Qt::AltModifier) ? altKey : 0;
+    const int meta = keys.testFlag(Qt::MetaModifier) ? metaKey : 0;
+    return static_cast<std::int16_t>(shift + control + alt + meta);
 }
 
 } // namespace
@@ -164,13 +165,9 @@ void SurfaceWidget::showRing() {
 
 void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = keyOf(*event);
-    const auto with = [event](Qt::KeyboardModifier held) { return event->modifiers().testFlag(held); };
-    event->setAccepted(key && ShownSurface::key({.key = *key,
-                                                 .shift = with(Qt::ShiftModifier),
-                                                 .control = with(Qt::ControlModifier),
-                                                 .alt = with(Qt::AltModifier),
-                                                 .meta = with(Qt::MetaModifier),
-                                                 .repeated = event->isAutoRepeat()}));
+    event->setAccepted(
+        key &&
+        ShownSurface::key({.key = *key, .Shift = shiftKeys(event->modifiers()), .repeated = event->isAutoRepeat()}));
     showRing();
 }
 

@@ -4,7 +4,6 @@
 #include "platform/web/Surface.h"
 
 #include <list>
-#include <map>
 
 namespace tumble {
 
@@ -19,31 +18,26 @@ public:
     bool shows() const override { return shows_; }
     void retire() override;
 
-    /// For a page of that size; a modal form at the scale of the one in front, if it fits.
-    void fit(PixelSize page, double scaleInFront);
-
-    // What the page reports of its elements; nothing of those that it does not know.
-    void input(int element, int value) const;
-    /// False for a key that means nothing here.
-    bool key(int focus, const KeyPress& press);
+    /// For a page of that size. A modal form has the scale of the program's largest one, if it fits.
+    void fit(PixelSize page);
 
 private:
     void build(const Container& container, int parent);
     // What a control has besides its place, its caption and its value.
-    void complete(PictureBox& box, int element);
+    static void complete(const Control& /*control*/, int /*element*/) {}
+    void complete(PictureBox& box, int element) { add(canvases_.emplace_back(box, element, pictures_)); }
     static void complete(const Label& label, int element);
     static void complete(const CommandButton& button, int element);
     void complete(const Frame& frame, int element) { build(frame, element); }
-    void focus(const AnyControl& control) override;
-    const AnyControl* control(int element) const;
-    int elementOf(const Control& control) const;
+    void relate(const Control& /*control*/, int /*element*/) const {}
+    void relate(const Label& label, int element) const;
+    void focus(int element) override;
 
     Modality modality_;
     PictureCache& pictures_;
     int window_;  // what is added to the page
     int content_; // where the controls are
     bool shows_ = false;
-    std::map<int, AnyControl> controls_; // by their elements
     std::list<Surface> canvases_;
 };
 

@@ -6,13 +6,6 @@
 
 namespace tumble {
 
-WebCanvas::WebCanvas(PixelSize size, std::optional<Colour> ground) : WebCanvas(page_canvasMake()) {
-    resize(size);
-    if (ground) {
-        fill(bounds(), *ground);
-    }
-}
-
 WebCanvas::~WebCanvas() {
     page_remove(element_);
 }
@@ -23,7 +16,12 @@ void WebCanvas::resize(PixelSize size) {
 }
 
 std::unique_ptr<Canvas> WebCanvas::another(PixelSize size, std::optional<Colour> ground) const {
-    return std::make_unique<WebCanvas>(size, ground);
+    auto canvas = std::make_unique<WebCanvas>(page_canvasMake());
+    canvas->resize(size);
+    if (ground) {
+        canvas->fill(canvas->bounds(), *ground);
+    }
+    return canvas;
 }
 
 void WebCanvas::clip(const PixelRect& block) {

@@ -8,8 +8,7 @@ namespace tumble {
 /// page shows there.
 class WebCanvas : public Canvas {
 public:
-    WebCanvas(PixelSize size, std::optional<Colour> ground);
-    /// An element of the page, still without a size.
+    /// Still without a size.
     explicit WebCanvas(int element) : element_(element) {}
     ~WebCanvas() override;
 

@@ -29,20 +29,14 @@ WebDesktop::WebDesktop(Application application, PicturePainter painter)
 
 std::shared_ptr<ShownForm> WebDesktop::open(Form& form, Modality modality) {
     const auto view = std::make_shared<FormView>(form, modality, pictures_);
-    fit(*view);
+    view->fit(page_);
     return view;
-}
-
-void WebDesktop::fit(FormView& view) const {
-    if (!page_.empty()) {
-        view.fit(page_, windows().empty() ? 1 : windows().front()->scale());
-    }
 }
 
 void WebDesktop::resized(PixelSize page) {
     page_ = page;
     for (const auto& window : windows()) {
-        fit(static_cast<FormView&>(*window));
+        static_cast<FormView&>(*window).fit(page);
     }
 }
 
@@ -70,26 +64,17 @@ void WebDesktop::showBox(const std::string& text, const std::string& caption) {
     suspend(page_suspend);
 }
 
-void WebDesktop::closeBox() {
-    page_remove(std::exchange(box_, 0));
-    page_resume();
-}
-
-void WebDesktop::nextFrame() {
-    suspend(page_frame);
-    lastFrame_ = emscripten_get_now();
-}
-
 void WebDesktop::Refresh(Form& form) {
     if (windowOf(form) != nullptr) {
-        nextFrame();
+        suspend(page_frame);
+        lastFrame_ = emscripten_get_now();
     }
 }
 
 void WebDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
-    if (box.container().form().MousePointer() == Pointer::Hourglass &&
-        emscripten_get_now() - lastFrame_ >= leastFrame) {
-        nextFrame();
+    Form& form = box.container().form();
+    if (form.MousePointer() == Pointer::Hourglass && emscripten_get_now() - lastFrame_ >= leastFrame) {
+        Refresh(form);
     }
 }
 
@@ -100,20 +85,21 @@ void WebDesktop::End() {
 
 void WebDesktop::input(int element, int value) {
     if (element == box_) {
-        closeBox();
-    } else if (const FormView* view = inFront()) {
-        view->input(element, value);
+        page_remove(std::exchange(box_, 0));
+        page_resume();
+    } else if (const ShownForm* window = inFront()) {
+        window->input(element, value);
     }
 }
 
 bool WebDesktop::key(int focus, const KeyPress& press) {
     if (box_ == 0) {
-        FormView* view = inFront();
-        return view != nullptr && view->key(focus, press);
+        ShownForm* window = inFront();
+        return window != nullptr && window->key(focus, press);
     }
     const bool closes = press.key == Key::Enter || press.key == Key::Esc;
     if (closes && !press.repeated) {
-        closeBox();
+        input(box_, 0);
     }
     return closes;
 }
@@ -135,16 +121,9 @@ EMSCRIPTEN_KEEPALIVE void page_input(int element, int value) {
 }
 
 // Gives true for a key that the browser may have. Of a handler that is suspended the page gets false.
-EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, int letter, int shiftKeys, bool repeated) {
+EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, char letter, std::int16_t Shift, bool repeated) {
     bool taken = repeated;
-    const auto held = [shiftKeys](int bit) { return (shiftKeys & bit) != 0; };
-    const KeyPress press{key < 0 ? Key::Other : static_cast<Key>(key),
-                         held(1),
-                         held(2),
-                         held(4),
-                         held(8),
-                         repeated,
-                         static_cast<char>(letter)};
+    const KeyPress press{key < 0 ? Key::Other : static_cast<Key>(key), Shift, repeated, letter};
     page().handle([&] { taken = page().key(focus, press); });
     return !taken;
 }

@@ -56,12 +56,8 @@ protected:
     void showBox(const std::string& text, const std::string& caption) override;
 
 private:
-    FormView* inFront() const { return static_cast<FormView*>(WindowDesktop::inFront()); }
-    void fit(FormView& view) const;
-    void closeBox();
     /// Suspends the running handler for as long as the page waits.
     void suspend(void (*wait)());
-    void nextFrame();
 
     PictureCache pictures_;
     PixelSize page_;

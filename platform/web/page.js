@@ -57,7 +57,7 @@ const page = {
     const {left, top} = box.corner ??= box.getBoundingClientRect(); // too slow for each move
     const place = [(event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio];
     if (!touches) {
-      _page_mouse(box.id, page.buttons[button] ?? 0, buttons & 7, page.shiftKeys(event) & 7, ...place);
+      _page_mouse(box.id, page.buttons[button] ?? 0, buttons, page.shiftKeys(event), ...place);
       return;
     }
     if (type === 'pointerdown') {
@@ -125,15 +125,12 @@ const page = {
     element?.querySelectorAll('[id]').forEach(({id}) => page.remove(id));
     page.elements[number] = null;
   },
-  attribute(number, name, value) {
-    page.elements[number].act.setAttribute(UTF8ToString(name), UTF8ToString(value));
-  },
+  attribute: (number, name, value) =>
+    page.elements[number].act.setAttribute(UTF8ToString(name), UTF8ToString(value)),
   property(number, name, value) {
     page.elements[number].act[UTF8ToString(name)] = value;
   },
-  unit(number, pixels) {
-    page.elements[number].style.setProperty('--unit', page.css(pixels));
-  },
+  unit: (number, pixels) => page.elements[number].style.setProperty('--unit', page.css(pixels)),
   place(number, left, top, width, height) {
     const element = page.elements[number];
     element.corner = null;
@@ -166,9 +163,7 @@ const page = {
     page.ruler.font = `${bold ? 'bold ' : ''}${pixels}px system-ui,sans-serif`;
     return page.ruler.measureText(UTF8ToString(text)).width;
   },
-  focus(number) {
-    page.elements[number].act.focus({preventScroll: true});
-  },
+  focus: (number) => page.elements[number].act.focus({preventScroll: true}),
   show(number) {
     const element = page.elements[number];
     document.body.classList.remove('keys');
@@ -226,12 +221,8 @@ const page = {
   },
   canvasFill(canvas, colour, left, top, width, height) {
     const context = page.context(canvas);
-    if (colour < 0) { // the window's
-      context.clearRect(left, top, width, height);
-    } else {
-      context.fillStyle = page.colour(colour);
-      context.fillRect(left, top, width, height);
-    }
+    context.fillStyle = page.colour(colour);
+    context[colour < 0 ? 'clearRect' : 'fillRect'](left, top, width, height);
   },
   // For each step seven numbers of eight bytes, of which the first is a whole one of four.
   canvasPath(canvas, transform, steps, count, width, round) {
@@ -253,9 +244,7 @@ const page = {
       Object.assign(context, {lineWidth: width, lineCap, lineJoin}).stroke();
     }
     context.resetTransform();
-    if (!width) {
-      context.fill();
-    }
+    width || context.fill();
   },
   canvasDraw(canvas, from, left, top, width, height, x, y, mirrored, upsideDown) {
     const context = page.context(canvas);
