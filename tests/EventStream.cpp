@@ -49,7 +49,9 @@ public:
         const unsigned kind = next();
         game_ = kind % 4 != 0;
         table_.desktop.whileMessageIsOpen = [this] {
-            check();
+            if (game_) { // an operation may open a box for each card of a pack
+                check();
+            }
             const std::size_t painted = log().size();
             const auto ring = table_.pointer.ring();
             for (unsigned events = next() % 3; events > 0 && game_; --events) {
