@@ -11,6 +11,12 @@ ShownSurface* ShownForm::surface(const PictureBox& box) const {
     return surface != surfaces_.end() ? *surface : nullptr;
 }
 
+ShownSurface* ShownForm::surface(int element) const {
+    const auto any = control(element);
+    auto* const* box = any ? std::get_if<PictureBox*>(&*any) : nullptr;
+    return box != nullptr ? surface(**box) : nullptr;
+}
+
 PixelSize ShownForm::roomFor(const Control& control) const {
     return layout_.pixels(each(control).room).size();
 }
@@ -113,8 +119,8 @@ bool ShownForm::key(int focused, const KeyPress& press) {
     if (!any || press.key == Key::Other) {
         return false;
     }
-    if (auto* const* box = std::get_if<PictureBox*>(&*any)) {
-        return surface(**box)->key(press);
+    if (ShownSurface* focusedSurface = surface(focused)) {
+        return focusedSurface->key(press);
     }
     const auto now = tumble::press(*any, press.key);
     if (now && form_ != nullptr) {

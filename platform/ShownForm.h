@@ -40,7 +40,9 @@ public:
     Form* form() const { return form_; }
     double scale() const { return layout_.scale; }
     const std::vector<ShownSurface*>& surfaces() const { return surfaces_; }
+    // Null for a box that is not the form's, and for an element that shows no box of it.
     ShownSurface* surface(const PictureBox& box) const;
+    ShownSurface* surface(int element) const;
 
     /// What the player does to the control that an element shows, as below; nothing for other elements.
     void input(int element, int value) const;

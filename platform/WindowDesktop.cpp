@@ -61,6 +61,14 @@ void WindowDesktop::changed(Control& control) {
     }
 }
 
+ShownSurface* WindowDesktop::surface(int element) const {
+    ShownSurface* found = nullptr;
+    for (const auto& window : windows_) {
+        found = found != nullptr ? found : window->surface(element);
+    }
+    return found;
+}
+
 ShownForm* WindowDesktop::windowOf(const Form& form) const {
     const auto window =
         std::find_if(windows_.begin(), windows_.end(), [&](const auto& each) { return each->form() == &form; });

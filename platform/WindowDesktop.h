@@ -40,6 +40,8 @@ protected:
     ShownForm* windowOf(const Form& form) const;
     /// The one shown last of those that still show; null when none does.
     ShownForm* inFront() const;
+    /// Null for an element that shows no box of any.
+    ShownSurface* surface(int element) const;
     template<class Action>
     void everySurface(const Action& action) const {
         for (const auto& window : std::vector(windows_)) { // which an action may change

@@ -6,7 +6,7 @@
 // What it reports comes in at the end of WebDesktop.cpp.
 extern "C" {
 
-/// From now on the page reports what happens; its size soon.
+/// From now on the page reports what happens; its size at once.
 void page_listen();
 
 /// Adds a template of index.html. The number stands for the whole of it, or for the part that is meant: an attribute or

@@ -13,7 +13,6 @@ class Surface : public ShownSurface {
 public:
     Surface(PictureBox& box, int element, PictureCache& pictures);
 
-    int element() const { return canvas_.element(); }
     /// A place in pixels of the canvas.
     Point twips(double x, double y) const { return {scale_.twips(x), scale_.twips(y)}; }
 

@@ -35,14 +35,9 @@ public:
     /// A report of one picture box, if that is still there.
     template<class Report>
     void handle(int element, const Report& report) {
-        handle([&] {
-            everySurface([&](ShownSurface& each) {
-                auto& surface = static_cast<Surface&>(each);
-                if (surface.element() == element) {
-                    report(surface);
-                }
-            });
-        });
+        if (auto* surface = static_cast<Surface*>(WindowDesktop::surface(element))) {
+            handle([&] { report(*surface); });
+        }
     }
     void resized(PixelSize page);
     void input(int element, int value);

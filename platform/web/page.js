@@ -94,11 +94,14 @@ const page = {
     page.number(main);
     // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
-    const observer = new ResizeObserver(([{contentRect: {width, height}, devicePixelContentBoxSize: told}]) => {
+    const resized = ({width, height}, told) => {
       // On fewer pixels than the smallest scale needs, what is shown is shrunk.
       page.ratio = Math.max(devicePixelRatio, 480 / width, 336 / height);
-      _page_resized(exact(told?.[0].inlineSize, width * page.ratio), exact(told?.[0].blockSize, height * page.ratio));
-    });
+      const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
+      main.shows === (main.shows = `${size} ${page.ratio}`) || _page_resized(...size);
+    };
+    resized(main.getBoundingClientRect()); // so that forms are in their places from the first
+    const observer = new ResizeObserver(([entry]) => resized(entry.contentRect, entry.devicePixelContentBoxSize?.[0]));
     const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
     const observe = () => { // anew at another zoom, and on another screen
       observer.disconnect();
