@@ -104,7 +104,7 @@ class Page(Player):
     def in_front(self, title):
         """Waits until the dialog with the title is open, or none over the form with it, and the deal is over."""
         wait(title, lambda: [title] == (self.box()[:1] or self.ask("[document.title]")))
-        wait("the deal", lambda: not self.ask("document.querySelector('.busy')"))
+        wait("the deal", lambda: not self.ask("!!document.querySelector('.busy')"))
 
     def message(self, title):
         """Waits for the message box with the title; its text."""
