@@ -30,6 +30,8 @@ struct CaptionFont {
     double points;
     bool bold = false;
     int stretch = 100; // percent of the font's own width
+
+    double pixels() const { return points * 4 / 3; }
 };
 
 struct TextSize {

@@ -53,9 +53,10 @@ Layout layoutOf(const FormSize& form, PixelSize window, double ratio) {
     return {.scale = scale, .content = form.at(scale).at({left, top})};
 }
 
-Layout layoutOver(const FormSize& form, PixelSize window, double scaleBelow) {
-    const double scale = std::min(scaleBelow, mostOfWindow * form.scaleToFit(window.width, window.height));
-    return {.scale = scale, .content = form.at(scale).at({})};
+Layout layoutOver(const FormSize& below, const FormSize& dialog, PixelSize window) {
+    const double scale =
+        std::min(layoutOf(below, window, 1).scale, mostOfWindow * dialog.scaleToFit(window.width, window.height));
+    return {.scale = scale, .content = dialog.at(scale).at({})};
 }
 
 Place roomOf(const Control& control) {

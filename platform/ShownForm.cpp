@@ -17,8 +17,9 @@ ShownSurface* ShownForm::surface(int element) const {
     return box != nullptr ? surface(**box) : nullptr;
 }
 
-PixelSize ShownForm::roomFor(const Control& control) const {
-    return layout_.pixels(each(control).room).size();
+PixelSize ShownForm::roomFor(const Control& control, PixelSize margin) const {
+    const auto [width, height] = layout_.pixels(each(control).room).size();
+    return {width - static_cast<int>(margin.width * scale()), height - static_cast<int>(margin.height * scale())};
 }
 
 int ShownForm::elementOf(const Control& control) const {

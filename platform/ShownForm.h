@@ -67,8 +67,8 @@ protected:
     void layOut(const Layout& layout);
     void scale(double scale) { layout_.scale = scale; }
     const PixelRect& content() const { return layout_.content; }
-    // Of a control that was added: the pixels that it has, and what shows it.
-    PixelSize roomFor(const Control& control) const;
+    // Of a control that was added: the pixels that it has, less a margin given for scale 1; and what shows it.
+    PixelSize roomFor(const Control& control, PixelSize margin = {}) const;
     int elementOf(const Control& control) const;
 
     /// The player clicks the button, chooses the option or moves the slider to a value. A toolkit shows that before

@@ -25,6 +25,15 @@ public:
     void changed(Control& control) override;
     ClockRandom& random() override { return random_; }
 
+    template<class Action>
+    void everySurface(const Action& action) const {
+        for (const auto& window : std::vector(windows_)) { // which an action may change
+            for (ShownSurface* surface : window->surfaces()) {
+                std::invoke(action, *surface);
+            }
+        }
+    }
+
 protected:
     /// A new window for a form, which does not show yet.
     virtual std::shared_ptr<ShownForm> open(Form& form, Modality modality) = 0;
@@ -42,14 +51,6 @@ protected:
     ShownForm* inFront() const;
     /// Null for an element that shows no box of any.
     ShownSurface* surface(int element) const;
-    template<class Action>
-    void everySurface(const Action& action) const {
-        for (const auto& window : std::vector(windows_)) { // which an action may change
-            for (ShownSurface* surface : window->surfaces()) {
-                std::invoke(action, *surface);
-            }
-        }
-    }
 
 private:
     std::vector<std::shared_ptr<ShownForm>> windows_;

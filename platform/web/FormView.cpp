@@ -1,7 +1,6 @@
 #include "platform/web/FormView.h"
 
 #include "platform/Desktop.h"
-#include "platform/web/Page.h"
 
 #include <array>
 #include <cmath>
@@ -15,19 +14,22 @@ namespace {
 constexpr std::array templates{"picture", "label", "button", "option", "frame", "slider"};
 constexpr std::array<PixelSize, templates.size()> margins{{{}, {}, {8, 4}, {20, 0}, {frameCaptionHeight, 0}, {}}};
 
-constexpr double pixelsPerPoint = 4.0 / 3;
 constexpr double lineHeight = 1.25; // of the font's size, as in style.css
 
 TextSize measure(const std::string& text, const CaptionFont& font, std::optional<int> width) {
-    const double pixels = font.points * pixelsPerPoint;
-    const auto widthOf = [&font, pixels](const std::string& piece) {
-        return page_textWidth(piece.c_str(), pixels, font.bold) * font.stretch / 100;
+    const auto widthOf = [&font](const std::string& piece) {
+        return page_textWidth(piece.c_str(), font.pixels(), font.bold) * font.stretch / 100;
     };
-    return textSize(PlainCaption(text).text, widthOf, static_cast<int>(std::ceil(pixels * lineHeight)), width);
+    return textSize(PlainCaption(text).text, widthOf, static_cast<int>(std::ceil(font.pixels() * lineHeight)), width);
 }
 
-void place(int element, const PixelRect& to) {
+void place(const Control& /*control*/, int element, const PixelRect& to) {
     page_place(element, to.left, to.top, to.width(), to.height());
+}
+
+// Lies, turned about its upper left corner.
+void place(const Slider& /*slider*/, int element, const PixelRect& to) {
+    page_place(element, to.right + 1, to.top, to.height(), to.width());
 }
 
 void showValue(const Control& /*control*/, int /*element*/) {}
@@ -65,15 +67,12 @@ void FormView::build(const Container& container, int parent) {
                 showValue(*control, element);
                 relate(*control, element);
             };
-            const auto captionRoom = [this, control, margin]() -> PixelSize {
-                const auto [width, height] = roomFor(*control);
-                return {width - static_cast<int>(margin.width * scale()),
-                        height - static_cast<int>(margin.height * scale())};
-            };
+            const auto captionRoom = [this, control, margin] { return roomFor(*control, margin); };
             const auto setFont = [element](const CaptionFont& font) {
-                page_font(element, font.points * pixelsPerPoint, font.bold, font.stretch);
+                page_font(element, font.pixels(), font.bold, font.stretch);
             };
-            add(any, {[element](const PixelRect& to) { place(element, to); }, update, captionRoom, setFont, element});
+            const auto placed = [control, element](const PixelRect& to) { place(*control, element, to); };
+            add(any, {placed, update, captionRoom, setFont, element});
         };
         std::visit(build, any);
     }
@@ -85,8 +84,10 @@ void FormView::complete(const Label& label, int element) {
 }
 
 void FormView::complete(const CommandButton& button, int element) {
-    const std::string face = button.face == ButtonFace::IconAboveCaption ? "icon " : "";
-    page_attribute(element, "class", (face + (button.pressedBy(Key::Enter) ? "default" : "")).c_str());
+    if (button.face == ButtonFace::IconAboveCaption) {
+        page_add(element, "icon");
+    }
+    page_attribute(element, "class", button.pressedBy(Key::Enter) ? "default" : "");
 }
 
 void FormView::relate(const Label& label, int element) const {
@@ -111,10 +112,6 @@ void FormView::MousePointer(Pointer pointer) {
     page_attribute(window_, "class", pointer == Pointer::Hourglass ? "window busy" : "window");
 }
 
-void FormView::focus(int element) {
-    page_focus(element);
-}
-
 void FormView::retire() {
     ShownForm::retire();
     shows_ = false;
@@ -124,10 +121,10 @@ void FormView::retire() {
 void FormView::fit(PixelSize page) {
     const Application& App = desktop().App();
     const FormSize size(form()->Width(), form()->Height());
-    const double largest = layoutOf({App.Width, App.Height}, page, 1).scale;
-    layOut(modality_ == Modality::Modal ? layoutOver(size, page, largest) : layoutOf(size, page, 1));
+    const bool isModal = modality_ == Modality::Modal;
+    layOut(isModal ? layoutOver({App.Width, App.Height}, size, page) : layoutOf(size, page, 1));
     page_unit(window_, scale());
-    place(content_, content());
+    page_place(content_, content().left, content().top, content().width(), content().height());
     for (Surface& canvas : canvases_) {
         canvas.layOut(roomFor(*canvas.box()), PixelScale(scale()));
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ShownForm.h"
+#include "platform/web/Page.h"
 #include "platform/web/Surface.h"
 
 #include <list>
@@ -31,7 +32,7 @@ private:
     void complete(const Frame& frame, int element) { build(frame, element); }
     void relate(const Control& /*control*/, int /*element*/) const {}
     void relate(const Label& label, int element) const;
-    void focus(int element) override;
+    void focus(int element) override { page_focus(element); }
 
     Modality modality_;
     PictureCache& pictures_;

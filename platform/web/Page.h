@@ -39,10 +39,11 @@ int page_canvasMake();
 void page_canvasSize(int canvas, int width, int height);
 void page_canvasClip(int canvas, int left, int top, int width, int height);
 void page_canvasFill(int canvas, std::int32_t colour, int left, int top, int width, int height);
-// What a path is painted with; filled, unless it is stroked with a pen of some width.
-void page_canvasColour(int canvas, std::int32_t colour);
+/// What a path is filled with that has no colour.
 void page_canvasTexture(int canvas, int texture, int x, int y);
-void page_canvasPath(int canvas, const double* transform, const void* steps, int count, double width, bool isRound);
+/// Filled, unless it is stroked with a pen of some width; no colour is negative.
+void page_canvasPath(int canvas, std::int32_t colour, const double* transform, const void* steps, int count,
+                     double width, bool isRound);
 void page_canvasDraw(int canvas, int from, int left, int top, int width, int height, int x, int y, bool isMirrored,
                      bool isUpsideDown);
 }

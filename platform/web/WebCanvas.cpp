@@ -1,14 +1,8 @@
 #include "platform/web/WebCanvas.h"
 
-#include "platform/web/Page.h"
-
 #include <cstddef>
 
 namespace tumble {
-
-WebCanvas::~WebCanvas() {
-    page_remove(element_);
-}
 
 void WebCanvas::resize(PixelSize size) {
     size_ = size;
@@ -35,25 +29,23 @@ void WebCanvas::fill(const PixelRect& block, Colour colour) {
 }
 
 void WebCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
-    page_canvasColour(element_, colour);
-    paint(path, toPixels);
+    paint(path, toPixels, colour);
 }
 
 void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
     page_canvasTexture(element_, static_cast<const WebCanvas&>(texture).element_, corner.x, corner.y);
-    paint(path, toPixels);
+    paint(path, toPixels, windowColour);
 }
 
 void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    page_canvasColour(element_, pen.colour);
-    paint(path, toPixels, pen.width, pen.nib == Nib::Round);
+    paint(path, toPixels, pen.colour, pen.width, pen.nib == Nib::Round);
 }
 
-void WebCanvas::paint(const Path& path, const Transform& toPixels, double width, bool isRound) const {
+void WebCanvas::paint(const Path& path, const Transform& toPixels, Colour colour, double width, bool isRound) const {
     static_assert(sizeof(Transform) == 6 * sizeof(double) && sizeof(Path::Step) == 7 * sizeof(double) &&
                   offsetof(Path::Step, to) == sizeof(double) && offsetof(Path::Step, bends) == 3 * sizeof(double));
-    page_canvasPath(element_, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()), width,
-                    isRound);
+    page_canvasPath(element_, colour, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()),
+                    width, isRound);
 }
 
 void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "platform/web/Page.h"
 
 namespace tumble {
 
@@ -10,7 +11,7 @@ class WebCanvas : public Canvas {
 public:
     /// Still without a size.
     explicit WebCanvas(int element) : element_(element) {}
-    ~WebCanvas() override;
+    ~WebCanvas() override { page_remove(element_); }
 
     int element() const { return element_; }
     /// Empties it.
@@ -26,8 +27,9 @@ public:
     void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
 
 private:
-    /// Fills, or strokes with a pen of a width.
-    void paint(const Path& path, const Transform& toPixels, double width = 0, bool isRound = false) const;
+    /// Fills, or strokes with a pen of a width; of the colour of the window, with the texture that was set.
+    void paint(const Path& path, const Transform& toPixels, Colour colour, double width = 0,
+               bool isRound = false) const;
 
     int element_;
     PixelSize size_;

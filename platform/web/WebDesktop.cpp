@@ -41,11 +41,10 @@ void WebDesktop::resized(PixelSize page) {
 }
 
 void WebDesktop::suspend(void (*wait)()) {
-    if (suspended_) {
+    if (std::exchange(suspended_, true)) {
         std::abort(); // there is one place for a stack
     }
     everySurface(&ShownSurface::showNow);
-    suspended_ = true;
     wait();
     suspended_ = false;
 }
@@ -140,6 +139,6 @@ EMSCRIPTEN_KEEPALIVE void page_finger(int element, int event, int number, double
 }
 
 EMSCRIPTEN_KEEPALIVE void page_letGo() {
-    page().handle([] { page().letGo(); });
+    page().handle([] { page().everySurface(&ShownSurface::letGo); });
 }
 }

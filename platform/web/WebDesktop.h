@@ -43,7 +43,6 @@ public:
     void input(int element, int value);
     /// False for a key that means nothing.
     bool key(int focus, const KeyPress& press);
-    void letGo() const { everySurface(&ShownSurface::letGo); }
 
 protected:
     std::shared_ptr<ShownForm> open(Form& form, Modality modality) override;

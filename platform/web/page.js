@@ -21,8 +21,8 @@ const page = {
 
   number(element) {
     element.act = element.querySelector('input, canvas') ?? element; // what the player acts on
-    element.id = page.elements.push(element) - 1;
-    return element.id;
+    element.number = element.id = page.elements.push(element) - 1;
+    return element.number;
   },
   css: (pixels) => `${pixels / page.ratio}px`,
   colour: (bgr) => page.colours[bgr] ??= `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
@@ -33,8 +33,7 @@ const page = {
     const key = page.keys.indexOf(event.key.length === 1 ? event.key.toLowerCase() : event.key);
     const letter = event.altKey && !event.ctrlKey && /^Key.$/.test(event.code) && event.code.charCodeAt(3);
     const focus = document.activeElement.closest('[id]')?.id;
-    const unknown = _page_key(focus, key, letter, page.shiftKeys(event), event.repeat);
-    unknown || event.preventDefault();
+    _page_key(focus, key, letter, page.shiftKeys(event), event.repeat) || event.preventDefault();
   },
   // The document hears of a held button whatever has come up meanwhile, and beyond its edges.
   pointer(event) {
@@ -54,16 +53,17 @@ const page = {
       clearTimeout(page.pressTime);
       box.corner = null;
     }
-    const {left, top} = box.corner ??= box.getBoundingClientRect(); // too slow for each move
-    const place = [(event.clientX - left) * page.ratio, (event.clientY - top) * page.ratio];
+    box.corner ??= box.getBoundingClientRect(); // too slow for each move
+    const x = (event.clientX - box.corner.left) * page.ratio;
+    const y = (event.clientY - box.corner.top) * page.ratio;
     if (!touches) {
-      _page_mouse(box.id, page.buttons[button] ?? 0, buttons, page.shiftKeys(event), ...place);
+      _page_mouse(box.number, page.buttons[button] ?? 0, buttons, page.shiftKeys(event), x, y);
       return;
     }
     if (type === 'pointerdown') {
-      page.pressTime = setTimeout(_page_finger, 600, box.id, page.touches.length, pointerId, ...place);
+      page.pressTime = setTimeout(_page_finger, 600, box.number, page.touches.length, pointerId, x, y);
     }
-    _page_finger(box.id, page.touches.indexOf(type), pointerId, ...place);
+    _page_finger(box.number, page.touches.indexOf(type), pointerId, x, y);
   },
   listen() {
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
@@ -119,7 +119,7 @@ const page = {
     page.elements[parent].append(element);
     page.number(element);
     element.act.name = parent; // one choice for each container
-    return element.id;
+    return element.number;
   },
   remove(number) {
     const element = page.elements[number];
@@ -130,9 +130,7 @@ const page = {
   },
   attribute: (number, name, value) =>
     page.elements[number].act.setAttribute(UTF8ToString(name), UTF8ToString(value)),
-  property(number, name, value) {
-    page.elements[number].act[UTF8ToString(name)] = value;
-  },
+  property: (number, name, value) => Object.assign(page.elements[number].act, {[UTF8ToString(name)]: value}),
   unit: (number, pixels) => page.elements[number].style.setProperty('--unit', page.css(pixels)),
   place(number, left, top, width, height) {
     const element = page.elements[number];
@@ -157,10 +155,8 @@ const page = {
   },
   font(number, pixels, bold, stretch) {
     const {style} = page.elements[number].querySelector('span');
-    style.fontWeight = bold ? 'bold' : '';
-    style.fontSize = page.css(pixels);
-    style.width = stretch < 100 ? `${10000 / stretch}%` : '';
-    style.transform = stretch < 100 ? `scaleX(${stretch}%)` : '';
+    const [width, transform] = stretch < 100 ? [`${10000 / stretch}%`, `scaleX(${stretch}%)`] : ['', ''];
+    Object.assign(style, {fontWeight: bold ? 'bold' : '', fontSize: page.css(pixels), width, transform});
   },
   textWidth(text, pixels, bold) {
     page.ruler.font = `${bold ? 'bold ' : ''}${pixels}px system-ui,sans-serif`;
@@ -174,7 +170,7 @@ const page = {
     if (element.showModal) {
       element.showModal();
     } else {
-      document.title = element.ariaLabel;
+      document.title = element.getAttribute('aria-label');
     }
     element.querySelector('canvas[tabindex], button').focus();
   },
@@ -203,7 +199,6 @@ const page = {
     Object.assign(element, {width, height});
     element.context = element.getContext('2d');
     element.context.imageSmoothingEnabled = false;
-    element.context.save();
   },
   canvasClip(canvas, left, top, width, height) {
     const context = page.context(canvas);
@@ -212,10 +207,6 @@ const page = {
     context.beginPath();
     context.rect(left, top, width, height);
     context.clip();
-  },
-  canvasColour(canvas, colour) {
-    const context = page.context(canvas);
-    context.fillStyle = context.strokeStyle = page.colour(colour);
   },
   canvasTexture(canvas, texture, x, y) {
     const context = page.context(canvas);
@@ -228,8 +219,11 @@ const page = {
     context[colour < 0 ? 'clearRect' : 'fillRect'](left, top, width, height);
   },
   // For each step seven numbers of eight bytes, of which the first is a whole one of four.
-  canvasPath(canvas, transform, steps, count, width, round) {
+  canvasPath(canvas, colour, transform, steps, count, width, round) {
     const context = page.context(canvas);
+    if (colour >= 0) {
+      context[width ? 'strokeStyle' : 'fillStyle'] = page.colour(colour);
+    }
     const n = HEAPF64;
     let at = transform >> 3;
     context.setTransform(n[at], n[at + 1], n[at + 2], n[at + 3], n[at + 4], n[at + 5]);
@@ -257,4 +251,5 @@ const page = {
   },
 };
 
-globalThis.Module = {onRuntimeInitialized: () => _page_start()};
+// A browser that knows no dialogs keeps what the page says of it.
+globalThis.Module = {onRuntimeInitialized: () => globalThis.HTMLDialogElement && _page_start()};

@@ -40,9 +40,4 @@ export default [
       'strict': ['error', 'global'],
     },
   },
-  {
-    files: ['**/imports.js'],
-    languageOptions: {globals: {LibraryManager: 'readonly'}},
-    rules: {strict: 'off'},
-  },
 ];

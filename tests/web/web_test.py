@@ -60,6 +60,25 @@ class WebTest(Scenarios, unittest.TestCase):
             colours = page.photograph().crop((left, top, left + width, top + height)).getcolors(width * height)
             self.assertGreater(len(colours), 2, name)
 
+    def test_page_says_what_it_needs_where_it_does_not_get_that(self):
+        page = self.page
+        home = self.server.address
+
+        def visit(address, words):
+            page.browser.get(address)
+            wait(words, lambda: words in page.ask("document.querySelector('main').innerText"))
+            page.browser.get_log("browser")
+
+        visit(FOLDER.joinpath("index.html").resolve().as_uri(), "opened from a disk")
+        for missing in ("WebAssembly", "HTMLDialogElement"):
+            script = page.tell("Page.addScriptToEvaluateOnNewDocument", source=f"delete window.{missing}")["identifier"]
+            visit(home, "a current browser")
+            page.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
+        self.addCleanup(page.tell, "Emulation.setScriptExecutionDisabled", value=False)
+        page.tell("Emulation.setScriptExecutionDisabled", value=True)
+        visit(home, "scripts, which are switched off")
+        page.requests()
+
     def test_page_changes_its_size_and_is_left_in_the_middle_of_a_box(self):
         page = self.start_table()
         page.key("F1")
@@ -272,5 +291,5 @@ class WebTest(Scenarios, unittest.TestCase):
 
 
 if __name__ == "__main__":
-    FOLDER = sys.argv.pop(1)
+    FOLDER = pathlib.Path(sys.argv.pop(1))
     unittest.main(failfast=True)
