@@ -59,6 +59,9 @@ class WebTest(Scenarios, unittest.TestCase):
             left, top, width, height = page.control(name)
             colours = page.photograph().crop((left, top, left + width, top + height)).getcolors(width * height)
             self.assertGreater(len(colours), 2, name)
+        places = [page.block(f"document.querySelector('[data-name=cmdPlay] {part}')") for part in ("svg", "span")]
+        (_, top, _, height), (_, caption, *_) = places
+        self.assertLessEqual(top + height, caption, "the icon above the caption")
 
     def test_page_says_what_it_needs_where_it_does_not_get_that(self):
         page = self.page
