@@ -123,7 +123,7 @@ void FormView::fit(PixelSize page) {
     const FormSize size(form()->Width(), form()->Height());
     const bool isModal = modality_ == Modality::Modal;
     layOut(isModal ? layoutOver({App.Width, App.Height}, size, page) : layoutOf(size, page, 1));
-    page_unit(window_, scale());
+    page_unit(isModal ? window_ : 0, scale()); // message boxes have the page's
     page_place(content_, content().left, content().top, content().width(), content().height());
     for (Surface& canvas : canvases_) {
         canvas.layOut(roomFor(*canvas.box()), PixelScale(scale()));

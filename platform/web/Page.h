@@ -16,8 +16,8 @@ int page_add(int parent, const char* name);
 void page_remove(int element);
 void page_attribute(int element, const char* name, const char* value);
 void page_property(int element, const char* name, int value);
-/// How long a pixel of the unscaled form is in a window.
-void page_unit(int window, double pixels);
+/// How long a pixel of the unscaled form is in an element and all in it.
+void page_unit(int element, double pixels);
 void page_place(int element, int left, int top, int width, int height);
 /// Where nothing in it shows a caption, that is its name.
 void page_caption(int element, const char* text);

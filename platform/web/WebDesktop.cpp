@@ -58,7 +58,6 @@ void WebDesktop::showBox(const std::string& text, const std::string& caption) {
     box_ = page_add(0, "message");
     page_attribute(box_, "aria-label", caption.c_str());
     page_caption(box_, text.c_str());
-    page_unit(box_, inFront() != nullptr ? inFront()->scale() : 1);
     page_show(box_);
     suspend(page_suspend);
 }

@@ -83,9 +83,14 @@ class WebTest(Scenarios, unittest.TestCase):
         page.requests()
 
     def test_page_changes_its_size_and_is_left_in_the_middle_of_a_box(self):
+        def part_of_table():
+            return page.block("document.querySelector('dialog')")[2] / page.control("picTable")[2]
+
         page = self.start_table()
         page.key("F1")
-        page.screen(800, 600)
+        part = part_of_table()
+        page.screen(390, 844)
+        self.assertAlmostEqual(part_of_table(), part, delta=0.02)
         page.key("Enter")
         page.in_front("Tumble")
         page.key("F1")
