@@ -26,12 +26,17 @@ BUTTONS = {"left": 1, "right": 2}
 
 
 class Server(http.server.ThreadingHTTPServer):
-    """Serves a folder under a path of its own."""
+    """Serves a folder under a path of its own, with headers of one's own."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, headers=()):
         class Handler(http.server.SimpleHTTPRequestHandler):
             def translate_path(self, path):
                 return super().translate_path(path.removeprefix("/some/where"))
+
+            def end_headers(self):
+                for header in headers:
+                    self.send_header(*header)
+                super().end_headers()
 
             def log_message(self, *words):
                 pass
@@ -48,12 +53,14 @@ class Server(http.server.ThreadingHTTPServer):
 class Page(Player):
     """The game in Chromium."""
 
+    LOGS = {"browser": "ALL", "performance": "ALL"}
+
     def __init__(self, address, ratio=1):
         options = webdriver.ChromeOptions()
         self.profile = tempfile.TemporaryDirectory()
         for switch in [*SWITCHES, f"--user-data-dir={self.profile.name}", f"--force-device-scale-factor={ratio}"]:
             options.add_argument(switch)
-        options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
+        options.set_capability("goog:loggingPrefs", self.LOGS)
         self.browser = webdriver.Chrome(options=options, service=Service("/usr/bin/chromedriver"))
         self.address = address
         self.down = 0
