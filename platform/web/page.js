@@ -90,7 +90,6 @@ const page = {
     });
 
     const main = document.querySelector('main');
-    main.replaceChildren();
     page.number(main);
     // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
@@ -101,6 +100,7 @@ const page = {
       main.shows === (main.shows = `${size} ${page.ratio}`) || _page_resized(...size);
     };
     resized(main.getBoundingClientRect()); // so that forms are in their places from the first
+    main.replaceChildren();
     const observer = new ResizeObserver(([entry]) => resized(entry.contentRect, entry.devicePixelContentBoxSize?.[0]));
     const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
     const observe = () => { // anew at another zoom, and on another screen
