@@ -25,6 +25,7 @@ public:
     void changed(Control& control) override;
     ClockRandom& random() override { return random_; }
 
+    /// What is done to each picture box that shows.
     template<class Action>
     void everySurface(const Action& action) const {
         for (const auto& window : std::vector(windows_)) { // which an action may change
