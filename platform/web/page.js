@@ -96,6 +96,7 @@ const page = {
     const resized = ({width, height}, told) => {
       // On fewer pixels than the smallest scale needs, what is shown is shrunk.
       page.ratio = Math.max(devicePixelRatio, 480 / width, 336 / height);
+      main.style.setProperty('--hairline', page.css(Math.round(page.ratio)));
       const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
       main.shows === (main.shows = `${size} ${page.ratio}`) || _page_resized(...size);
     };

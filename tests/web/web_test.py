@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Plays the page in Chromium, by mouse, keys and fingers: web_test.py FOLDER"""
 
+import itertools
 import pathlib
 import sys
 import unittest
@@ -269,6 +270,19 @@ class WebTest(Scenarios, unittest.TestCase):
                         page.screen(width, height)
                         if width * ratio >= 480:  # else shrunk
                             self.check_pixels(page, min(width * ratio / 635, height * ratio / 442))
+
+    def test_ticks_of_the_slider_are_alike_between_two_ratios(self):
+        page = Page(self.server.address, 1.25)
+        self.addCleanup(page.close)
+        for size in ((700, 340), (640, 360), (801, 600)):
+            with self.subTest(size):
+                page.screen(*size)
+                page.open()
+                left, top, _, height = (round(1.25 * length) for length in page.control("sldBackDesign"))
+                shown = page.photograph()
+                column = [shown.getpixel((left + 3, top + y)) for y in range(height)]
+                runs = [(colour, len(list(run))) for colour, run in itertools.groupby(column)]
+                self.assertEqual([length for colour, length in runs if colour != runs[0][0]], [1] * 4)
 
     def check_pixels(self, page, scale):
         """Waits until the table shows at the scale; looks at the left borders of cards, and for what is cut off."""
