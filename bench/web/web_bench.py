@@ -70,10 +70,9 @@ def main():
             each.tell("Performance.enable")
             each.tell("Network.enable")
             each.tell("Network.setBypassServiceWorker", bypass=True)
-        script = page.tell("Page.addScriptToEvaluateOnNewDocument", source=PAINTED)["identifier"]
-        times = [(start(page, game.address), start(page, plain.address + "controls.html")) for _ in range(ROUNDS)]
+        with page.before(PAINTED):
+            times = [(start(page, game.address), start(page, plain.address + "controls.html")) for _ in range(ROUNDS)]
         compare("the options on the screen", *zip(*times))
-        page.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
         page.open_table()
         other.browser.get(plain.address + "drag.html")
         page.mouse(in_spread(51), "+left")

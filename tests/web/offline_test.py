@@ -152,12 +152,10 @@ class OfflineTest(unittest.TestCase):
     def test_plays_where_nothing_can_be_kept(self):
         for source in ("delete Navigator.prototype.serviceWorker",
                        "ServiceWorkerContainer.prototype.register = () => Promise.reject(new Error())"):
-            with self.subTest(source):
-                script = self.page.tell("Page.addScriptToEvaluateOnNewDocument", source=source)["identifier"]
+            with self.subTest(source), self.page.before(source):
                 self.assert_plays(1)
                 self.assertEqual(self.result("caches.keys()"), [])
                 self.assertEqual(self.page.browser.get_log("browser"), [])
-                self.page.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
 
     def test_another_page_of_the_origin_keeps_its_version(self):
         home, other = self.page.address, self.page.address.replace("some/where", "other")

@@ -91,6 +91,13 @@ class Page(Player):
     def tell(self, command, **values):
         return self.browser.execute_cdp_cmd(command, values)
 
+    @contextlib.contextmanager
+    def before(self, script):
+        """A script that runs before each page's own meanwhile."""
+        number = self.tell("Page.addScriptToEvaluateOnNewDocument", source=script)["identifier"]
+        yield
+        self.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=number)
+
     def ask(self, expression):
         return self.browser.execute_script(f"return {expression}")
 

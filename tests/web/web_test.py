@@ -75,9 +75,8 @@ class WebTest(Scenarios, unittest.TestCase):
 
         visit(FOLDER.joinpath("index.html").resolve().as_uri(), "opened from a disk")
         for missing in ("WebAssembly", "HTMLDialogElement"):
-            script = page.tell("Page.addScriptToEvaluateOnNewDocument", source=f"delete window.{missing}")["identifier"]
-            visit(home, "a current browser")
-            page.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=script)
+            with page.before(f"delete window.{missing}"):
+                visit(home, "a current browser")
         self.addCleanup(page.tell, "Emulation.setScriptExecutionDisabled", value=False)
         page.tell("Emulation.setScriptExecutionDisabled", value=True)
         visit(home, "scripts, which are switched off")
