@@ -1,6 +1,6 @@
 #include "art/Back.h"
 
-#include "art/Marks.h"
+#include "art/CardDrawing.h"
 #include "art/Outline.h"
 
 #include <algorithm>
@@ -72,9 +72,9 @@ void unfold(Canvas& canvas) {
     const auto [width, height] = canvas.size();
     PixelRect half = upperLeftQuarter(canvas);
     half.right = width / 2 - 1;
-    canvas.draw(canvas, half, {(width + 1) / 2, 0}, Turn::Mirrored);
+    canvas.draw(canvas, half, {(width + 1) / 2, 0}, Flip::Horizontal);
     canvas.draw(canvas, {.left = 0, .top = 0, .right = width - 1, .bottom = height / 2 - 1}, {0, (height + 1) / 2},
-                Turn::UpsideDown);
+                Flip::Vertical);
 }
 
 /// How many pixels a tile takes of a side of the card. A strip of an odd number of tiles has a tile in the middle of
@@ -90,7 +90,7 @@ int pitch(int side, int tiles, double units) {
 /// these were chosen.
 std::unique_ptr<Canvas> motif(const Canvas& like, std::initializer_list<Ink> inks, std::string_view pixels,
                               PixelSize size, PixelSize tiles) {
-    auto image = like.another({std::max(1, size.width), std::max(1, size.height)}, {});
+    auto image = like.createSimilar({std::max(1, size.width), std::max(1, size.height)}, {});
     const PixelRect quarter = upperLeftQuarter(*image);
     const Transform toPixels = Transform()
                                    .moved(toBox(image->bounds()).centre())

@@ -1,9 +1,9 @@
 #include "art/Courts.h"
 
+#include "art/CardDrawing.h"
 #include "art/CourtAttributes.h"
 #include "art/CourtBodies.h"
 #include "art/CourtHeadgear.h"
-#include "art/Marks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +28,7 @@ struct Costume {
     Fabric sash;
 };
 
-/// Of what colour a figure's hair is, what it wears on its head and what it holds in its hand.
+/// Of what colour a figure's hair is, what it wears on its head and what it holds in its capture.
 struct Regalia {
     Colour hair;
     std::span<const Piece> headgear;
@@ -111,9 +111,9 @@ void paintCourt(const Drawing& drawing, int rank, Suit suit) {
     const double unit = drawing.toPixels.right.x;
     const int line = std::max(1, static_cast<int>(std::lround(unit)));
     const PixelRect frame = fitted(drawing, wholeCard)
-                                .inside(static_cast<int>(std::ceil(frameInset.x * unit)),
-                                        static_cast<int>(std::lround(frameInset.y * drawing.toPixels.down.y)));
-    const PixelRect inside = frame.inside(line, line);
+                                .inset(static_cast<int>(std::ceil(frameInset.x * unit)),
+                                       static_cast<int>(std::lround(frameInset.y * drawing.toPixels.down.y)));
+    const PixelRect inside = frame.inset(line, line);
     Canvas& canvas = drawing.canvas;
     canvas.clip(inside);
     paintFigure(drawing.moved(wholeCard.centre()), bodies.at(court), costumes.at(figure), regalia.at(figure));

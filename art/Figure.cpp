@@ -45,7 +45,7 @@ void fillWoven(const Drawing& drawing, const Path& shape, const Fabric& fabric) 
     const PixelPoint corner{static_cast<int>(std::floor(toPixels.origin.x)),
                             static_cast<int>(std::floor(toPixels.origin.y))};
 
-    const auto texture = drawing.canvas.another({halfWidth * 2, halfHeight * 2}, fabric.ground);
+    const auto texture = drawing.canvas.createSimilar({halfWidth * 2, halfHeight * 2}, fabric.ground);
     // A stripe takes a quarter of the texture; its left edge lies on a whole pixel.
     const double left = fabric.weave == Weave::Stripes ? halfWidth / 4.0 : toPixels.origin.x - corner.x;
     const Drawing weaver =

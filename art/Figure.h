@@ -1,8 +1,8 @@
 #pragma once
 
-#include "art/Ink.h"
 #include "art/Outline.h"
-#include "platform/Canvas.h"
+#include "art/Palette.h"
+#include "platform/paint/Canvas.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Path.h"
-#include "platform/Pixels.h"
+#include "platform/base/Path.h"
+#include "platform/base/Pixels.h"
 
 namespace tumble {
 

@@ -1,6 +1,6 @@
 #include "art/Icon.h"
 
-#include "art/Marks.h"
+#include "art/CardDrawing.h"
 #include "art/Pictures.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Geometry.h"
-#include "platform/Path.h"
+#include "platform/base/Geometry.h"
+#include "platform/base/Path.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "art/Joker.h"
 
+#include "art/CardDrawing.h"
 #include "art/CourtBodies.h"
-#include "art/Marks.h"
 
 #include <algorithm>
 #include <string_view>

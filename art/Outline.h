@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Path.h"
+#include "platform/base/Path.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 #include "art/Pictures.h"
 
 #include "art/Back.h"
+#include "art/CardDrawing.h"
 #include "art/Courts.h"
-#include "art/Ink.h"
 #include "art/Joker.h"
-#include "art/Marks.h"
+#include "art/Palette.h"
 #include "art/Pips.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "art/Pips.h"
 
+#include "art/CardDrawing.h"
 #include "art/Figure.h"
-#include "art/Marks.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "art/Symbols.h"
-#include "platform/Canvas.h"
+#include "platform/paint/Canvas.h"
 
 namespace tumble {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "art/Ink.h"
-#include "platform/Canvas.h"
+#include "art/Palette.h"
+#include "platform/paint/Canvas.h"
 
 #include <string_view>
 

@@ -65,13 +65,13 @@ BENCHMARK_CAPTURE(Sort, BySuitThenRank, bySuitThenRank)->Arg(24)->Arg(52)->Arg(1
 void Prune(benchmark::State& state) {
     Pack pack(state.range(0));
     (*pack).dealToTable(1300, 1000, 7644);
-    Painting painting = pack.surface().painting();
-    const auto items = painting.items();
+    DisplayList list = pack.surface().displayList();
+    const auto items = list.items();
     while (state.KeepRunning()) {
-        for (const PaintItem& item : items) {
-            painting.add(item);
+        for (const DisplayItem& item : items) {
+            list.add(item);
         }
-        benchmark::DoNotOptimize(painting.items().data());
+        benchmark::DoNotOptimize(list.items().data());
     }
 }
 BENCHMARK(Prune)->Arg(24)->Arg(52)->Arg(104);

@@ -2,7 +2,7 @@
 
 #include "cards/CardImages.h"
 #include "cards/Pile.h"
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 
 #include <algorithm>
 #include <cmath>
@@ -112,9 +112,9 @@ void Card::draw() const {
 void Card::drawCard() const {
     const Rect place = rectangle();
     const Picture* image = faceDir_ != fdFaceDown ? faceImage_ : backImage_;
-    Brush brush = surface_->Paint(place);
-    brush.PaintPicture(image != nullptr ? *image : CardImages::find({}), xPos_, yPos_, cardWidth_, cardHeight_);
-    brush.Line(place, std::nullopt, BoxFill::Outline);
+    ItemPainter painter = surface_->Paint(place);
+    painter.PaintPicture(image != nullptr ? *image : CardImages::find({}), xPos_, yPos_, cardWidth_, cardHeight_);
+    painter.Line(place, std::nullopt, BoxFill::Outline);
 }
 
 void Card::drawPile() const {
@@ -130,29 +130,29 @@ void Card::drawPile() const {
 
 void Card::drawEmptyPile() const {
     const Rect place = rectangle();
-    Brush brush = surface_->Paint(place);
-    brush.Line(place, green, BoxFill::Filled);
-    brush.Line({place.left, place.top}, {place.right, place.bottom}, black);
-    brush.Line({place.right, place.top}, {place.left, place.bottom}, black);
+    ItemPainter painter = surface_->Paint(place);
+    painter.Line(place, green, BoxFill::Filled);
+    painter.Line({place.left, place.top}, {place.right, place.bottom}, black);
+    painter.Line({place.right, place.top}, {place.left, place.bottom}, black);
 }
 
 // Each step draws the right and bottom edges of a card's outline and, in the background colour, cuts away what sticks
 // out above and to the left of it; at last the corners of the top card's border go that lie outside the steps.
 void Card::drawPileEdge(int cards) const {
     const auto [L, T, R, B] = rectangle();
-    Brush brush = surface_->Paint(rectangle());
+    ItemPainter painter = surface_->Paint(rectangle());
     for (int i = cards; i >= 1; --i) {
         const float inset = edgeStep * static_cast<float>(i);
         const float offset = edgeStep * static_cast<float>(cards - i);
-        brush.Line({R - inset, T}, {R - inset, T + offset}, surface_->BackColor());
-        brush.Line({R - inset, B - inset}, darkGrey);
-        brush.Line({L + offset, B - inset}, darkerGrey);
-        brush.Line({L, B - inset}, surface_->BackColor());
+        painter.Line({R - inset, T}, {R - inset, T + offset}, surface_->BackColor());
+        painter.Line({R - inset, B - inset}, darkGrey);
+        painter.Line({L + offset, B - inset}, darkerGrey);
+        painter.Line({L, B - inset}, surface_->BackColor());
     }
     const float band = edgeStep * static_cast<float>(cards);
-    brush.Line({R, T}, {R, T + band}, surface_->BackColor());
-    brush.Line({L, B - band}, {L, B}, surface_->BackColor());
-    brush.Line({L + band, B}, surface_->BackColor());
+    painter.Line({R, T}, {R, T + band}, surface_->BackColor());
+    painter.Line({L, B - band}, {L, B}, surface_->BackColor());
+    painter.Line({L + band, B}, surface_->BackColor());
 }
 
 void Card::drawOutline(Colour col, bool partial) const {
@@ -160,13 +160,13 @@ void Card::drawOutline(Colour col, bool partial) const {
         return;
     }
     const Rect place = rectangle();
-    Brush brush = surface_->Paint(place);
-    brush.Line(place, col, BoxFill::Filled);
+    ItemPainter painter = surface_->Paint(place);
+    painter.Line(place, col, BoxFill::Filled);
     if (partial) {
         const Point middle{place.left + static_cast<float>(cardWidth_) / 2,
                            place.top + static_cast<float>(cardHeight_) / 2};
-        brush.Line(place, black, BoxFill::Outline);
-        brush.Circle(middle, markRadius, red);
+        painter.Line(place, black, BoxFill::Outline);
+        painter.Circle(middle, markRadius, red);
     }
 }
 

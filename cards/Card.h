@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cards/CardConstants.h"
-#include "platform/DrawingSurface.h"
+#include "platform/paint/DrawingSurface.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
 #include <string_view>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Pinned.h"
+#include "platform/base/NonMovable.h"
 
 #include <cstdint>
 #include <memory>
@@ -11,7 +11,7 @@ namespace tumble {
 class Card;
 
 /// Decides whether a card dropped on a pile may stay there.
-class PileAccepter : private Pinned {
+class PileAccepter : private NonMovable {
 public:
     virtual ~PileAccepter() = default;
 
@@ -21,7 +21,7 @@ public:
 };
 
 /// A stack of cards as its pile card and the drag see it.
-class Pile : private Pinned {
+class Pile : private NonMovable {
 public:
     virtual ~Pile() = default;
 

@@ -1,7 +1,7 @@
 #include "game/MainMod.h"
 
 #include "assets/Assets.h"
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 #include "rules/PileAccepterTumble.h"
 
 namespace tumble {

@@ -3,7 +3,7 @@
 #include "game/frmTumble.h"
 #include "packs/CardPack.h"
 #include "packs/frmTumbleOptions.h"
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 
 #include <cstdint>
 #include <memory>

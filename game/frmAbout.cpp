@@ -1,6 +1,6 @@
 #include "game/frmAbout.h"
 
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 
 #include <string>
 
@@ -17,7 +17,7 @@ void frmAbout::Form_Load() {
 
     constexpr float iconSize = 32 * twipsPerPixel;
     const float margin = (picIcon.Width() - iconSize) / 2;
-    picIcon.Paint(picIcon.painting().bounds()).PaintPicture(App.Icon, margin, margin, iconSize, iconSize);
+    picIcon.Paint(picIcon.displayList().bounds()).PaintPicture(App.Icon, margin, margin, iconSize, iconSize);
 }
 
 } // namespace tumble

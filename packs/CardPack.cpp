@@ -3,8 +3,8 @@
 #include "packs/OrderRankSuit.h"
 #include "packs/OrderSuitRank.h"
 #include "packs/Sorter.h"
-#include "platform/Desktop.h"
-#include "platform/Random.h"
+#include "platform/base/Random.h"
+#include "platform/forms/Desktop.h"
 #include "table/CardTracker.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Pinned.h"
+#include "platform/base/NonMovable.h"
 
 #include <cstdint>
 #include <memory>
@@ -11,7 +11,7 @@ namespace tumble {
 class Card;
 
 /// An order of cards.
-class CardOrder : private Pinned {
+class CardOrder : private NonMovable {
 public:
     virtual ~CardOrder() = default;
 

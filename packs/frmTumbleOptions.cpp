@@ -1,6 +1,6 @@
 #include "packs/frmTumbleOptions.h"
 
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 
 #include <utility>
 

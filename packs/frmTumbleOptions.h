@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cards/Card.h"
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #include "rules/PileAccepterTumble.h"
 
 #include "cards/Card.h"
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 
 #include <utility>
 

@@ -55,7 +55,7 @@ TEST(CardTest, CardsPilesBlocksAndErasuresArePaintedStrokeByStroke) {
     Table table;
     table.picture().ForeColor(0x0000FF);
     const auto painted = [&table] {
-        const PaintItem& last = table.desktop.log(table.picture()).back();
+        const DisplayItem& last = table.desktop.log(table.picture()).back();
         EXPECT_EQ(last.place, (Rect{100.5F, 200, 828.5F, 1333}));
         return inFull(last);
     };

@@ -1,5 +1,5 @@
 #include "game/frmAbout.h"
-#include "platform/Random.h"
+#include "platform/base/Random.h"
 #include "tests/Table.h"
 
 #include <gtest/gtest.h>
@@ -21,12 +21,12 @@ class WatchfulDesktop : public MemoryDesktop {
 public:
     WatchfulDesktop() : MemoryDesktop(application()) { keepLog(); }
     void changed(Control& control) override { changes += control.Name() + " "; }
-    void painted(PictureBox& box, const PaintItem& item) override {
+    void painted(PictureBox& box, const DisplayItem& item) override {
         MemoryDesktop::painted(box, item);
         whenPainted(item);
     }
     std::string changes;
-    std::function<void(const PaintItem&)> whenPainted = [](const PaintItem&) {};
+    std::function<void(const DisplayItem&)> whenPainted = [](const DisplayItem&) {};
 };
 
 class OptionsTest : public testing::Test {
@@ -90,14 +90,14 @@ TEST_F(OptionsTest, PreviewsStandInTheMiddleOfTheirBoxesAndFollowEachChoice) {
     options.optCardSmall.Select();
     EXPECT_EQ(inWords(desktop.log(options.pctCardSize)),
               "AceSpades 51,8.5; window 0,0; AceSpades 217.5,267; window 0,0; AceSpades 303,400.5");
-    EXPECT_EQ(inWords(options.pctCardSize.painting().items()), "AceSpades 303,400.5");
+    EXPECT_EQ(inWords(options.pctCardSize.displayList().items()), "AceSpades 303,400.5");
 
     for (const int value : {9, 4, -1, 3}) {
         options.sldBackDesign.Value(value);
     }
     EXPECT_EQ(inWords(desktop.log(options.pctBackDesign)),
               "CardBack1 51,8.5; CardBack4 51,8.5; CardBack1 51,8.5; CardBack3 51,8.5");
-    EXPECT_EQ(options.pctBackDesign.painting().items().size(), 1U); // each covers the one before it
+    EXPECT_EQ(options.pctBackDesign.displayList().items().size(), 1U); // each covers the one before it
 }
 
 /// A form's size and its controls by their tab positions, each with all that it was designed with; those of a frame
@@ -189,7 +189,7 @@ TEST(MainModTest, PlayOpensTheTableAndDealsCardByCardUnderTheHourglass) {
     MainMod program;
     program.Main();
     std::map<std::string, int> paintings; // by what was done last, and whether what is painted lies on the table
-    desktop.whenPainted = [&](const PaintItem& item) {
+    desktop.whenPainted = [&](const DisplayItem& item) {
         const auto crd = program.tableTracker->identifyCard(item.place.right, item.place.bottom);
         ++paintings[desktop.journal().back() + (crd == nullptr ? "" : ", " + crd->getStr())];
     };

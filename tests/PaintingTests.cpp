@@ -1,7 +1,7 @@
-#include "platform/Picture.h"
-#include "platform/PixelScale.h"
-#include "platform/Replay.h"
+#include "platform/base/PixelScale.h"
 #include "platform/memory/Raster.h"
+#include "platform/paint/Picture.h"
+#include "platform/paint/Replay.h"
 #include "tests/Table.h"
 
 #include <gtest/gtest.h>
@@ -17,27 +17,27 @@ constexpr Colour red = 0x0000FF;
 constexpr Colour blue = 0xFF0000;
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
-PaintItem fill(const Rect& place, Colour colour) {
+DisplayItem fill(const Rect& place, Colour colour) {
     return {.place = place, .operations = {FillOperation{place, colour}}};
 }
-PaintItem erasure(const Rect& place) {
+DisplayItem erasure(const Rect& place) {
     return fill(place, tableGreen);
 }
 
-Painting painted(const std::vector<PaintItem>& items) {
-    Painting painting(3000, 2000, tableGreen);
-    for (const PaintItem& item : items) {
-        painting.add(item);
+DisplayList painted(const std::vector<DisplayItem>& items) {
+    DisplayList list(3000, 2000, tableGreen);
+    for (const DisplayItem& item : items) {
+        list.add(item);
     }
-    return painting;
+    return list;
 }
 
 TEST(PaintingTest, ListsWhatStillShows) {
     const Picture card("card", {});
-    const PaintItem lower = fill({100, 100, 199, 299}, red);
-    const PaintItem far = fill({500, 0, 509, 9}, blue);
+    const DisplayItem lower = fill({100, 100, 199, 299}, red);
+    const DisplayItem far = fill({500, 0, 509, 9}, blue);
     const Rect wide{90, 90, 209, 309};
-    const std::vector<std::pair<std::vector<PaintItem>, std::string>> cases{
+    const std::vector<std::pair<std::vector<DisplayItem>, std::string>> cases{
         // What covers another item lets it go.
         {{lower, fill({100, 100, 199, 299}, blue)}, "blue 100,100"},
         {{lower, {wide, {PictureOperation{&card, wide}, BoxOperation{wide, 0}}}}, "card 90,90"},
@@ -67,14 +67,14 @@ TEST(PaintingTest, ListsWhatStillShows) {
          "red -199,0; red 3099,0; red 0,2099"}};
     for (const auto& [added, shown] : cases) {
         for (const std::size_t step : {9U, 2U, 1U}) { // how often it is read meanwhile
-            Painting painting(3000, 2000, tableGreen);
+            DisplayList list(3000, 2000, tableGreen);
             for (std::size_t i = 0; i < added.size(); ++i) {
-                painting.add(added[i]);
+                list.add(added[i]);
                 if (i % step == step - 1) {
-                    painting.items();
+                    list.items();
                 }
             }
-            EXPECT_EQ(inWords(painting.items()), shown);
+            EXPECT_EQ(inWords(list.items()), shown);
         }
     }
     EXPECT_LT(painted(std::vector(10000, lower)).items().capacity(), 200U); // also while nobody reads it
@@ -82,12 +82,12 @@ TEST(PaintingTest, ListsWhatStillShows) {
 
 TEST(PaintingTest, TellsWhereItChanged) {
     const auto at = [](float x, Colour colour) { return fill({x, 0, x + 9, 9}, colour); };
-    const PaintItem A = at(0, red);
-    const PaintItem B = at(100, red);
-    const PaintItem C = at(200, red);
-    const PaintItem open{B.place, {BoxOperation{B.place, red}}};
-    const PaintItem overA = fill({2, 0, 20, 20}, red);
-    const std::vector<std::tuple<std::vector<PaintItem>, std::vector<PaintItem>, Rect>> cases{
+    const DisplayItem A = at(0, red);
+    const DisplayItem B = at(100, red);
+    const DisplayItem C = at(200, red);
+    const DisplayItem open{B.place, {BoxOperation{B.place, red}}};
+    const DisplayItem overA = fill({2, 0, 20, 20}, red);
+    const std::vector<std::tuple<std::vector<DisplayItem>, std::vector<DisplayItem>, Rect>> cases{
         {{A, B, C}, {A, B, C}, {}},
         {{A, B, C}, {A, at(100, blue), C}, {100, 0, 109, 9}},
         {{A, B, C}, {C, B, A}, {0, 0, 209, 9}},
@@ -98,12 +98,12 @@ TEST(PaintingTest, TellsWhereItChanged) {
         {{}, {B, C}, {100, 0, 209, 9}},
         {{A, overA}, {at(0, blue), overA}, {0, 0, 2, 9}}};
     for (const auto& [before, after, changed] : cases) {
-        Painting shown = painted(before);
-        EXPECT_EQ(shown.become(painted(after)), changed) << inWords(before) << " to " << inWords(after);
+        DisplayList shown = painted(before);
+        EXPECT_EQ(shown.replaceWith(painted(after)), changed) << inWords(before) << " to " << inWords(after);
         EXPECT_EQ(inWords(shown.items()), inWords(after));
     }
-    Painting shown(3000, 2000, blue);
-    EXPECT_EQ(shown.become(Painting(3000, 2000, red)), (Rect{-100, -100, 3099, 2099}));
+    DisplayList shown(3000, 2000, blue);
+    EXPECT_EQ(shown.replaceWith(DisplayList(3000, 2000, red)), (Rect{-100, -100, 3099, 2099}));
     EXPECT_EQ(shown.ground(), red);
 }
 
@@ -166,14 +166,14 @@ TEST(PixelScaleTest, SlantingLinesAreWholeFromEndToEndAndMirrored) {
 
 // Cut at the edge of a part, a smoothed line would not join what shows of it outside.
 TEST(ReplayTest, ACircleThatShowsIsRepaintedWhole) {
-    Painting painting(3000, 2000, tableGreen);
+    DisplayList list(3000, 2000, tableGreen);
     const auto marked = [](float X) {
         const Rect place{X, 150, X + 299, 449};
-        return PaintItem{place, {FillOperation{place, blue}, CircleOperation{{X + 150, 300}, 60, red}}};
+        return DisplayItem{place, {FillOperation{place, blue}, CircleOperation{{X + 150, 300}, 60, red}}};
     };
-    painting.add(marked(150));
-    painting.add(marked(450));
-    painting.add(fill({450, 150, 659, 449}, red)); // which hides all of the second circle but its end
+    list.add(marked(150));
+    list.add(marked(450));
+    list.add(fill({450, 150, 659, 449}, red)); // which hides all of the second circle but its end
     PictureCache pictures({});
     Raster canvas({200, 133}, 0);
     const std::vector<std::pair<PixelRect, PixelRect>> cases{{{10, 10, 14, 29}, {10, 10, 14, 29}},
@@ -182,7 +182,7 @@ TEST(ReplayTest, ACircleThatShowsIsRepaintedWhole) {
                                                              {{44, 18, 44, 19}, {44, 15, 45, 25}},
                                                              {{0, 0, 5, 200}, {0, 0, 5, 132}}};
     for (const auto& [part, repainted] : cases) {
-        EXPECT_EQ(replay(canvas, painting, PixelScale(1), part, pictures), repainted);
+        EXPECT_EQ(replay(canvas, list, PixelScale(1), part, pictures), repainted);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "art/Glyphs.h"
 #include "art/Pictures.h"
-#include "platform/Replay.h"
 #include "platform/memory/Raster.h"
+#include "platform/paint/Replay.h"
 
 #include <gtest/gtest.h>
 

@@ -85,11 +85,11 @@ public:
         key(Key::Space);
     }
     void release(Point at) override { press(at); }
-    std::vector<Point> everywhere() const override { return stops(table_.picture().painting(), field); }
+    std::vector<Point> everywhere() const override { return stops(table_.picture().displayList(), field); }
 
 private:
     static float way(Point from, Point to) { return std::hypot(to.x - from.x, to.y - from.y); }
-    Point at() const { return table_.pointer.ring()->at; }
+    Point at() const { return table_.pointer.cursor()->at; }
     bool there(Point to) const { return way(at(), to) < 2; }
     Key across(Point to) const { return to.x < at().x ? Key::Left : Key::Right; }
     Key along(Point to) const { return to.y < at().y ? Key::Up : Key::Down; }

@@ -1,4 +1,4 @@
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 #include "tests/Player.h"
 
 #include <gtest/gtest.h>
@@ -15,16 +15,16 @@
 namespace tumble {
 namespace {
 
-PaintItem block(const Rect& place, Colour colour = 0xFF0000) {
+DisplayItem block(const Rect& place, Colour colour = 0xFF0000) {
     return {.place = place, .operations = {FillOperation{place, colour}}};
 }
 
 TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
     const Picture picture("card", {});
-    const PaintItem low = block({100, 100, 500, 500});
-    const PaintItem card{low.place, {PictureOperation{&picture, low.place}, BoxOperation{low.place, 0}}};
-    const PaintItem open{{150, 150, 450, 450}, {BoxOperation{{150, 150, 450, 450}, 0}}};
-    const std::vector<std::tuple<std::vector<PaintItem>, std::optional<Ring>, std::vector<Point>>> cases{
+    const DisplayItem low = block({100, 100, 500, 500});
+    const DisplayItem card{low.place, {PictureOperation{&picture, low.place}, BoxOperation{low.place, 0}}};
+    const DisplayItem open{{150, 150, 450, 450}, {BoxOperation{{150, 150, 450, 450}, 0}}};
+    const std::vector<std::tuple<std::vector<DisplayItem>, std::optional<KeyboardCursor>, std::vector<Point>>> cases{
         {{}, {}, {}},
         {{card, open}, {}, {{300, 300}}}, // what is not opaque hides nothing and is no stop
         {{low, block({200, 0, 600, 600})}, {}, {{149, 300}, {400, 300}}},
@@ -42,16 +42,16 @@ TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
         {{block({-500, -500, 40, 40}), block({2900, 1900, 3500, 2500}), block({2981, 1981, 3500, 2500})},
          {},
          {{20, 20}, {2940, 1940}}}, // within the part alone
-        {{low, block({200, 0, 600, 600})}, Ring{{120, 300}}, {{400, 300}}},
-        {{low, block({200, 0, 600, 600})}, Ring{{400, 300}}, {{149, 300}}},
-        {{low, block({200, 0, 600, 600})}, Ring{{400, 300}, true}, {{300, 300}}}, // carried, it hides nothing
-        {{low, block({200, 0, 600, 600}, tableGreen)}, Ring{{400, 300}, true}, {{149, 300}}}};
-    for (const auto& [items, ring, expected] : cases) {
-        Painting painting(3000, 2000, tableGreen);
-        for (const PaintItem& item : items) {
-            painting.add(item);
+        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{120, 300}}, {{400, 300}}},
+        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}}, {{149, 300}}},
+        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}, true}, {{300, 300}}}, // carried, it hides nothing
+        {{low, block({200, 0, 600, 600}, tableGreen)}, KeyboardCursor{{400, 300}, true}, {{149, 300}}}};
+    for (const auto& [items, cursor, expected] : cases) {
+        DisplayList list(3000, 2000, tableGreen);
+        for (const DisplayItem& item : items) {
+            list.add(item);
         }
-        EXPECT_EQ(stops(painting, {0, 0, 2980, 1980}, ring), expected) << inWords(items);
+        EXPECT_EQ(stops(list, {0, 0, 2980, 1980}, cursor), expected) << inWords(items);
     }
 }
 
@@ -75,13 +75,13 @@ TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOt
         choose(table.program.options(), settings);
         table.program.options().cmdPlay.Click();
         const PictureBox& box = table.picture();
-        const std::vector<Point> all = stops(box.painting(), box.reach);
+        const std::vector<Point> all = stops(box.displayList(), box.dragBounds);
         std::set<const Card*> on;
         using Way = std::pair<std::size_t, std::size_t>;
         std::vector<Way> ways;
         for (std::size_t from = 0; from < all.size(); ++from) {
             on.insert(table.tracker().identifyCard(all[from].x, all[from].y).get());
-            const std::vector<Point> others = stops(box.painting(), box.reach, Ring{all[from]});
+            const std::vector<Point> others = stops(box.displayList(), box.dragBounds, KeyboardCursor{all[from]});
             for (const Point arrow : {Point{-1, 0}, {0, -1}, {1, 0}, {0, 1}}) {
                 if (const auto next = stopTowards(others, all[from], arrow)) {
                     ways.emplace_back(from, std::find(all.begin(), all.end(), *next) - all.begin());
@@ -112,10 +112,10 @@ class Blocks : public Form {
 public:
     Blocks() : Form("Blocks", 3000, 2000) {
         for (const Point middle : {Point{200, 200}, {1100, 200}, {2700, 200}, {200, 1600}, {2700, 1600}, {1500, 900}}) {
-            const Rect place = Rect{middle.x, middle.y, middle.x, middle.y}.grown(100);
+            const Rect place = Rect{middle.x, middle.y, middle.x, middle.y}.expanded(100);
             box.Paint(place).Line(place, 0, BoxFill::Filled);
         }
-        box.reach = {0, 0, 2929, 1929};
+        box.dragBounds = {0, 0, 2929, 1929};
         const auto note = [this](const std::string& what) {
             return [this, what](auto Button, auto Shift, float X, float Y) {
                 std::ostringstream event;
@@ -149,15 +149,15 @@ public:
                 words >> number >> at.x >> at.y;
                 place->second(number, at);
             } else if (word == "longPress" || word == "cancel") {
-                word == "cancel" ? finger_.cancel() : finger_.longPress();
+                word == "cancel" ? gesture_.cancel() : gesture_.longPress();
             } else if (!key(word)) {
                 told += word + " ";
             }
         }
         told += std::exchange(form.heard, "");
-        if (const auto ring = pointer_.ring()) {
+        if (const auto cursor = pointer_.cursor()) {
             std::ostringstream text;
-            text << (ring->holds ? "holds " : "ring ") << ring->at.x << "," << ring->at.y;
+            text << (cursor->holds ? "holds " : "ring ") << cursor->at.x << "," << cursor->at.y;
             told += text.str();
         }
         return told;
@@ -165,7 +165,7 @@ public:
 
     MemoryDesktop desktop{application()};
     Blocks form;
-    Hand hand{form.box};
+    MouseCapture capture{form.box};
 
 private:
     bool key(const std::string& word) {
@@ -181,15 +181,15 @@ private:
                              .repeated = with("held+") != 0});
     }
 
-    KeyboardPointer pointer_{hand};
-    Finger finger_{pointer_};
+    KeyboardPointer pointer_{capture};
+    TouchGesture gesture_{pointer_};
     const std::map<std::string, std::function<void(std::int16_t, Point)>> places_{
         {"press", [this](auto button, Point at) { pointer_.press(button, 0, at); }},
         {"move", [this](auto button, Point at) { pointer_.move(button, 0, at); }},
         {"release", [this](auto button, Point at) { pointer_.release(button, 0, at); }},
-        {"touch", [this](auto number, Point at) { finger_.touch(number, at, 150); }},
-        {"drag", [this](auto number, Point at) { finger_.move(number, at); }},
-        {"lift", [this](auto number, Point at) { finger_.lift(number, at); }}};
+        {"touch", [this](auto number, Point at) { gesture_.touch(number, at, 150); }},
+        {"drag", [this](auto number, Point at) { gesture_.move(number, at); }},
+        {"lift", [this](auto number, Point at) { gesture_.lift(number, at); }}};
 };
 
 TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
@@ -224,7 +224,7 @@ TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
     Desk desk;
     desk.form.box.Cls(); // and with it every stop
     EXPECT_EQ(desk.act("Space Left Home Space"), "move 0 0 1464,964; down 1 0 1464,964; holds 1464,964");
-    desk.hand.letGo(); // as a desktop does when the window has gone
+    desk.capture.letGo(); // as a desktop does when the window has gone
     EXPECT_EQ(desk.act("End"), "up 1 0 1464,964; ring 1464,964");
 }
 

@@ -1,6 +1,6 @@
 #include "tests/Table.h"
 
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
 #include <map>
 #include <sstream>
@@ -70,13 +70,13 @@ std::string whatItShows(const Operations& operations) {
 
 } // namespace
 
-std::string inWords(std::span<const PaintItem> items) {
-    return joined(items, [](const PaintItem& item) {
+std::string inWords(std::span<const DisplayItem> items) {
+    return joined(items, [](const DisplayItem& item) {
         return whatItShows(item.operations) + at(Point{item.place.left, item.place.top});
     });
 }
 
-std::string inFull(const PaintItem& item) {
+std::string inFull(const DisplayItem& item) {
     return joined(item.operations, [](const Operation& operation) { return std::visit(InFull(), operation); });
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "game/MainMod.h"
-#include "platform/Finger.h"
-#include "platform/KeyboardPointer.h"
+#include "platform/input/KeyboardPointer.h"
+#include "platform/input/TouchGesture.h"
 #include "platform/memory/MemoryDesktop.h"
 #include "rules/PileAccepterTumble.h"
 
@@ -16,9 +16,9 @@
 namespace tumble {
 
 /// What items show and where their places begin: "AceSpades 100,200; edge of 3 0,0; marked yellow 0,8.5".
-std::string inWords(std::span<const PaintItem> items);
+std::string inWords(std::span<const DisplayItem> items);
 /// Everything an item paints: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
-std::string inFull(const PaintItem& item);
+std::string inFull(const DisplayItem& item);
 
 using Cards = std::vector<std::shared_ptr<Card>>;
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit);
@@ -53,9 +53,9 @@ public:
 
     MemoryDesktop desktop{application()};
     MainMod program;
-    Hand hand{picture()};
-    KeyboardPointer pointer{hand};
-    Finger finger{pointer};
+    MouseCapture capture{picture()};
+    KeyboardPointer pointer{capture};
+    TouchGesture finger{pointer};
     /// The rules of a game that is not about to be won: at first, with a standard deck.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });

@@ -188,10 +188,10 @@ TEST_F(DragTest, ButtonLetGoUnderABoxIsHeldUntilTheNextRelease) {
     EXPECT_FALSE(table.desktop.ended());
     table.move({2100, 2100});
     EXPECT_TRUE(table.tracker().moveInProg());
-    table.hand.letGo();
+    table.capture.letGo();
     EXPECT_FALSE(table.tracker().moveInProg());
     EXPECT_EQ(table.cards(), "green 8000,0; FiveHearts 2000,2001");
-    table.hand.retire();
+    table.capture.detach();
     table.press({2100, 2100});
     EXPECT_FALSE(table.tracker().moveInProg());
 }

@@ -1,5 +1,5 @@
-#include "tests/EventStream.h"
 #include "tests/Player.h"
+#include "tests/RandomSession.h"
 
 #include <gtest/gtest.h>
 
@@ -49,9 +49,9 @@ TEST_P(EverySetting, IsWonByKeysAlone) {
 
 INSTANTIATE_TEST_SUITE_P(Deck, EverySetting, testing::Range<std::size_t>(0, 8));
 
-class EventStream : public testing::TestWithParam<unsigned> {};
+class RandomSession : public testing::TestWithParam<unsigned> {};
 
-TEST_P(EventStream, HoldsThroughRandomSessions) {
+TEST_P(RandomSession, HoldsThroughRandomSessions) {
     std::mt19937 random(GetParam());
     for (std::size_t events = 0; events < 125000;) {
         std::vector<std::uint8_t> bytes(random() % 4096);
@@ -61,7 +61,7 @@ TEST_P(EventStream, HoldsThroughRandomSessions) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seed, EventStream, testing::Range(1U, 9U));
+INSTANTIATE_TEST_SUITE_P(Seed, RandomSession, testing::Range(1U, 9U));
 
 } // namespace
 } // namespace tumble

@@ -1,5 +1,5 @@
-#include "platform/Captions.h"
-#include "platform/ScreenRoom.h"
+#include "platform/window/Captions.h"
+#include "platform/window/WorkArea.h"
 #include "tests/Table.h"
 
 #include <gtest/gtest.h>
@@ -39,10 +39,10 @@ TEST(LayoutTest, AChoiceMayUseHalfOfTheSpaceAboveAndBelowAndSomeOnItsRight) {
     const OptionButton second(form, "", "", {100, 1000, 1090, 300}, 0, {});
     const OptionButton third(form, "", "", {100, 1300, 500, 300}, 0, {}); // touches the second
     const OptionButton fourth(form, "", "", {100, 2500, 1800, 300}, 0, {});
-    EXPECT_EQ(roomOf(first), (Place{100, 400, 1055, 500}));
-    EXPECT_EQ(roomOf(second), (Place{100, 1000, 1090, 300}));
-    EXPECT_EQ(roomOf(third), (Place{100, 1300, 740, 300}));
-    EXPECT_EQ(roomOf(fourth), (Place{100, 2350, 1855, 600}));
+    EXPECT_EQ(allottedPlace(first), (Place{100, 400, 1055, 500}));
+    EXPECT_EQ(allottedPlace(second), (Place{100, 1000, 1090, 300}));
+    EXPECT_EQ(allottedPlace(third), (Place{100, 1300, 740, 300}));
+    EXPECT_EQ(allottedPlace(fourth), (Place{100, 2350, 1855, 600}));
 }
 
 TEST(ScreenRoomTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
@@ -51,11 +51,11 @@ TEST(ScreenRoomTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
          {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
           Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
           Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
-        const ScreenRoom room({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
+        const WorkArea room({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
         EXPECT_NEAR(room.openingScale(tableSize), scale, 1e-9) << screen.width;
         EXPECT_NEAR(room.leastScale(tableSize), std::min(scale, 1.0), 1e-9) << screen.width;
     }
-    const ScreenRoom room({0, 0, 799, 559}, {800, 600}, 1, {});
+    const WorkArea room({0, 0, 799, 559}, {800, 600}, 1, {});
     EXPECT_EQ(room.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
     EXPECT_EQ(room.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
     EXPECT_EQ(room.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";

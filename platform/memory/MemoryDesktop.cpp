@@ -52,7 +52,7 @@ void MemoryDesktop::MsgBox(const std::string& text, const std::string& caption) 
     }
 }
 
-void MemoryDesktop::painted(PictureBox& box, const PaintItem& item) {
+void MemoryDesktop::painted(PictureBox& box, const DisplayItem& item) {
     if (keepsLog_) {
         logs_[&box].push_back(item);
     }

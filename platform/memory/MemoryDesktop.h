@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Desktop.h"
-#include "platform/Random.h"
+#include "platform/base/Random.h"
+#include "platform/forms/Desktop.h"
 
 #include <cstddef>
 #include <functional>
@@ -50,7 +50,7 @@ public:
     void MsgBox(const std::string& text, const std::string& caption) override;
     void End() override { ended_ = true; }
     void changed(Control& /*control*/) override {}
-    void painted(PictureBox& box, const PaintItem& item) override;
+    void painted(PictureBox& box, const DisplayItem& item) override;
     ScriptedRandom& random() override { return random_; }
 
     /// The message boxes since the last call, in their order.
@@ -60,7 +60,7 @@ public:
     /// What forms were asked for, in order: "show Tumble Options", "pointer 11", "refresh Tumble", ...
     const std::vector<std::string>& journal() const { return journal_; }
     /// Every item ever painted on the box since the call of `keepLog`.
-    const std::vector<PaintItem>& log(const PictureBox& box) { return logs_[&box]; }
+    const std::vector<DisplayItem>& log(const PictureBox& box) { return logs_[&box]; }
     void keepLog() { keepsLog_ = true; }
 
     /// What the player does while a message box is open, and while a modal form is.
@@ -73,7 +73,7 @@ private:
     std::vector<const Form*> shown_;
     std::vector<Message> messages_;
     std::vector<std::string> journal_;
-    std::map<const PictureBox*, std::vector<PaintItem>> logs_;
+    std::map<const PictureBox*, std::vector<DisplayItem>> logs_;
     ScriptedRandom random_;
     bool keepsLog_ = false;
     bool ended_ = false;

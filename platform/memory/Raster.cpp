@@ -59,7 +59,7 @@ Raster::Raster(PixelSize size, std::optional<Colour> ground)
       clip_(bounds()),
       pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height), ground.value_or(clear)) {}
 
-std::unique_ptr<Canvas> Raster::another(PixelSize size, std::optional<Colour> ground) const {
+std::unique_ptr<Canvas> Raster::createSimilar(PixelSize size, std::optional<Colour> ground) const {
     return std::make_unique<Raster>(size, ground);
 }
 
@@ -139,12 +139,12 @@ void Raster::stroke(const Path& path, const Transform& toPixels, const Pen& pen)
     }
 }
 
-void Raster::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+void Raster::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) {
     const auto& from = dynamic_cast<const Raster&>(image);
     const PixelRect to = block.size().at(at);
     paint(to, [&](PixelPoint pixel) {
-        const int right = turn == Turn::Mirrored || turn == Turn::Half ? to.right - pixel.x : pixel.x - to.left;
-        const int down = turn == Turn::UpsideDown || turn == Turn::Half ? to.bottom - pixel.y : pixel.y - to.top;
+        const int right = flip == Flip::Horizontal || flip == Flip::Both ? to.right - pixel.x : pixel.x - to.left;
+        const int down = flip == Flip::Vertical || flip == Flip::Both ? to.bottom - pixel.y : pixel.y - to.top;
         return from.at({block.left + right, block.top + down});
     });
 }

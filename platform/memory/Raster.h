@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Canvas.h"
+#include "platform/paint/Canvas.h"
 
 #include <vector>
 
@@ -19,13 +19,13 @@ public:
     friend bool operator==(const Raster& one, const Raster& other) { return one.pixels_ == other.pixels_; }
 
     PixelSize size() const override { return size_; }
-    std::unique_ptr<Canvas> another(PixelSize size, std::optional<Colour> ground) const override;
+    std::unique_ptr<Canvas> createSimilar(PixelSize size, std::optional<Colour> ground) const override;
     void clip(const PixelRect& block) override { clip_ = block.intersected(bounds()); }
     void fill(const PixelRect& block, Colour colour) override;
     void fill(const Path& path, const Transform& toPixels, Colour colour) override;
     void fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) override;
     void stroke(const Path& path, const Transform& toPixels, const Pen& pen) override;
-    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
+    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) override;
 
 private:
     std::size_t index(PixelPoint pixel) const;

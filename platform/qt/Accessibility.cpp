@@ -1,6 +1,6 @@
 #include "platform/qt/Accessibility.h"
 
-#include "platform/Pinned.h"
+#include "platform/base/NonMovable.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/SurfaceWidget.h"
 
@@ -39,7 +39,7 @@ private:
     QAccessibleInterface& surface_;
 };
 
-class AccessibleSurface : public QAccessibleWidget, Pinned {
+class AccessibleSurface : public QAccessibleWidget, NonMovable {
 public:
     explicit AccessibleSurface(SurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Graphic) {}
     ~AccessibleSurface() override { forget(); }

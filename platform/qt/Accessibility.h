@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Controls.h"
+#include "platform/forms/Controls.h"
 
 class QLabel;
 

@@ -14,7 +14,7 @@ constexpr int captionFlags = Qt::TextShowMnemonic | Qt::TextWordWrap;
 void drawFrame(QPainter& painter, const QPalette& palette, const QRect& outside, int pen) {
     const double inwards = pen / 2.0;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(visibleLine(palette.color(QPalette::Highlight), palette), pen));
+    painter.setPen(QPen(withContrast(palette.color(QPalette::Highlight), palette), pen));
     painter.drawRoundedRect(QRectF(outside).adjusted(inwards, inwards, -inwards, -inwards), 2, 2);
 }
 
@@ -34,7 +34,7 @@ QRect WrappingRadioButton::markPlace() const {
     return {QPoint(0, (height() - size.height()) / 2), size};
 }
 
-QRect WrappingRadioButton::captionRoom() const {
+QRect WrappingRadioButton::captionArea() const {
     return rect().adjusted(
         markPlace().width() + style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this), 0, 0, 0);
 }
@@ -43,7 +43,7 @@ void WrappingRadioButton::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const QRect room = captionRoom();
+    const QRect room = captionArea();
     constexpr int flags = captionFlags | Qt::AlignLeft | Qt::AlignVCenter;
     const QRect caption = painter.fontMetrics().boundingRect(room, flags, text());
 
@@ -59,16 +59,16 @@ bool WrappingRadioButton::hitButton(const QPoint& place) const {
     return rect().contains(place);
 }
 
-QRect CaptionedFrame::captionRoom() const {
+QRect CaptionedFrame::captionArea() const {
     return {captionHeight_ / 2, 0, width() - captionHeight_, captionHeight_};
 }
 
 void CaptionedFrame::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
-    const QRect room = captionRoom();
+    const QRect room = captionArea();
     const QRect caption = painter.fontMetrics().boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, title());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(visibleLine(palette().color(QPalette::Mid), palette()));
+    painter.setPen(withContrast(palette().color(QPalette::Mid), palette()));
     painter.setClipRegion(QRegion(rect()) - caption.adjusted(-3, 0, 3, 0));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, room.center().y() + 0.5, -0.5, -0.5), 3, 3);
     painter.setClipping(false);

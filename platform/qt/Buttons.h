@@ -15,7 +15,7 @@ public:
     using QRadioButton::QRadioButton;
 
     /// Where the caption goes, in the button's own logical pixels.
-    QRect captionRoom() const;
+    QRect captionArea() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,7 +34,7 @@ public:
     void captionHeight(int height) { captionHeight_ = height; }
 
     /// Where the caption goes, in the frame's own logical pixels.
-    QRect captionRoom() const;
+    QRect captionArea() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

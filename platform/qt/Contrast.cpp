@@ -29,7 +29,7 @@ int between(int from, int to, int step) {
 
 } // namespace
 
-QColor visibleLine(const QColor& colour, const QPalette& palette) {
+QColor withContrast(const QColor& colour, const QPalette& palette) {
     const QColor text = palette.color(QPalette::WindowText);
     QColor line = colour;
     const auto lostOn = [&](QPalette::ColorRole ground) {

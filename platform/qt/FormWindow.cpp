@@ -1,6 +1,6 @@
 #include "platform/qt/FormWindow.h"
 
-#include "platform/Desktop.h"
+#include "platform/forms/Desktop.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/Buttons.h"
 #include "platform/qt/KeyFilter.h"
@@ -65,13 +65,13 @@ constexpr QSize buttonMargin(8, 4); // logical pixels
 
 } // namespace
 
-ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame) {
+WorkArea workArea(const QScreen& screen, const std::optional<WindowFrame>& frame) {
     return {toPixelRect(screen.availableGeometry()), toPixelSize(screen.size()), screen.devicePixelRatio(), frame};
 }
 
 FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures)
     : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
-      ShownForm(form, measure),
+      FormView(form, measure),
       icon_(icon),
       pictures_(pictures),
       formSize_(form.Width(), form.Height()),
@@ -108,13 +108,13 @@ void FormWindow::MousePointer(Pointer pointer) {
     setCursor(pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor);
 }
 
-void FormWindow::retire() {
+void FormWindow::detach() {
     Hide();
-    ShownForm::retire();
+    FormView::detach();
 }
 
 WindowPlace FormWindow::place() const {
-    return {screen(), frame_, windowState() & wholeScreen, ShownForm::scale()};
+    return {screen(), frame_, windowState() & wholeScreen, FormView::scale()};
 }
 
 QRect FormWindow::placeOver(QSize content) const {
@@ -135,7 +135,7 @@ void FormWindow::keepLeastSize() {
 QRect FormWindow::openingPlace() const {
     const double wanted = isModal() ? scale() : room().openingScale(largestForm());
     const PixelSize content = formSize_.at(std::min(wanted, room().largestScale(formSize_)));
-    return toQRect(room().place(content, room().inside()));
+    return toQRect(room().place(content, room().area()));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -195,7 +195,7 @@ void FormWindow::buildControls(const Container& container, QWidget* parent) {
 
 QWidget* FormWindow::build(PictureBox& box, QWidget* parent) {
     auto* widget = new SurfaceWidget(box, pictures_, parent);
-    ShownForm::add(*widget);
+    FormView::add(*widget);
     add(&box, widget, [this, &box, widget] {
         widget->scale(scale());
         widget->setAccessibleName(QString::fromStdString(box.Caption()));
@@ -242,7 +242,7 @@ QWidget* FormWindow::build(OptionButton& option, QWidget* parent) {
         // Tab comes to the selected choice of a frame, the arrows go on from there.
         widget->setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
     };
-    add(&option, widget, update, [widget] { return toPixelSize(widget->captionRoom().size()); });
+    add(&option, widget, update, [widget] { return toPixelSize(widget->captionArea().size()); });
     connect(widget, &QRadioButton::toggled, this, [this, &option](bool selected) {
         if (selected) {
             input(&option);
@@ -257,7 +257,7 @@ QWidget* FormWindow::build(Frame& frame, QWidget* parent) {
         widget->captionHeight(qRound(frameCaptionHeight * scale()));
         widget->setTitle(QString::fromStdString(frame.Caption()));
     };
-    add(&frame, widget, update, [widget] { return toPixelSize(widget->captionRoom().size()); });
+    add(&frame, widget, update, [widget] { return toPixelSize(widget->captionArea().size()); });
     buildControls(frame, widget);
     return widget;
 }
@@ -278,13 +278,14 @@ QWidget* FormWindow::build(Slider& slider, QWidget* parent) {
     return widget;
 }
 
-void FormWindow::add(AnyControl control, QWidget* widget, std::function<void()> update, Captions::Room captionRoom) {
+void FormWindow::add(AnyControl control, QWidget* widget, std::function<void()> update,
+                     Captions::AvailableSize captionArea) {
     const auto place = [this, widget](const PixelRect& room) {
         const auto [left, top] = content().corner();
         widget->setGeometry(toQRect(room).translated(widget->parent() == this ? QPoint(left, top) : QPoint()));
     };
     const auto setFont = [widget](const CaptionFont& font) { widget->setFont(toQFont(font)); };
-    ShownForm::add(control, {place, std::move(update), std::move(captionRoom), setFont});
+    FormView::add(control, {place, std::move(update), std::move(captionArea), setFont});
 }
 
 void FormWindow::setTabOrderByIndex() {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/PictureCache.h"
-#include "platform/ScreenRoom.h"
-#include "platform/ShownForm.h"
+#include "platform/paint/PictureCache.h"
 #include "platform/qt/ScaledStyle.h"
+#include "platform/window/FormView.h"
+#include "platform/window/WorkArea.h"
 
 #include <QIcon>
 #include <QPointer>
@@ -29,12 +29,12 @@ struct WindowPlace {
 };
 
 /// The room that a screen has for windows, in logical pixels.
-ScreenRoom roomOn(const QScreen& screen, const std::optional<WindowFrame>& frame);
+WorkArea workArea(const QScreen& screen, const std::optional<WindowFrame>& frame);
 
 /// Shows a form as a window of its own and reports to the form's controls what the player does. The content keeps the
 /// form's proportions, as large as fits the window, in its middle; the smallest window shows it at scale 1, or as large
 /// as its screen can hold.
-class FormWindow : public QWidget, public ShownForm {
+class FormWindow : public QWidget, public FormView {
 public:
     /// `last` is the window in front until now, or the last one; this one when it goes. A modal window opens at its
     /// scale, another at the one that suits the program's largest form, in its state.
@@ -44,11 +44,11 @@ public:
     void Hide() override;
     void MousePointer(Pointer pointer) override;
     bool shows() const override { return isVisible(); }
-    void retire() override;
+    void detach() override;
 
     WindowPlace place() const;
     /// What its screen has for it and for others with a frame like its own.
-    ScreenRoom room() const { return roomOn(*screen(), frame_); }
+    WorkArea room() const { return workArea(*screen(), frame_); }
     /// The place for another window of that size over this one.
     QRect placeOver(QSize content) const;
 
@@ -68,7 +68,8 @@ private:
     QWidget* build(Frame& frame, QWidget* parent);
     QWidget* build(Slider& slider, QWidget* parent);
     // By what brings the widget up to date.
-    void add(AnyControl control, QWidget* widget, std::function<void()> update, Captions::Room captionRoom = {});
+    void add(AnyControl control, QWidget* widget, std::function<void()> update,
+             Captions::AvailableSize captionArea = {});
     void setTabOrderByIndex();
     void followScreen(QScreen* screen);
     void keepLeastSize();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Keys.h"
+#include "platform/forms/Keys.h"
 
 #include <QObject>
 

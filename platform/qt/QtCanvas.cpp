@@ -1,6 +1,6 @@
 #include "platform/qt/QtCanvas.h"
 
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
 #include <QGuiApplication>
 #include <QPainterPath>
@@ -69,7 +69,7 @@ const QImage& QtCanvas::image() const {
     return image_;
 }
 
-std::unique_ptr<Canvas> QtCanvas::another(PixelSize size, std::optional<Colour> ground) const {
+std::unique_ptr<Canvas> QtCanvas::createSimilar(PixelSize size, std::optional<Colour> ground) const {
     return std::make_unique<QtCanvas>(size, ground);
 }
 
@@ -121,23 +121,23 @@ void QtCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& t
 }
 
 void QtCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    const bool isRound = pen.nib == Nib::Round;
+    const bool isRound = pen.capAndJoin == CapAndJoin::Round;
     smooth(toPixels).strokePath(toQPath(path),
                                 QPen(toQColor(pen.colour), pen.width, Qt::SolidLine,
                                      isRound ? Qt::RoundCap : Qt::FlatCap, isRound ? Qt::RoundJoin : Qt::MiterJoin));
 }
 
-void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) {
     if (block.empty()) {
         return;
     }
     const auto& from = dynamic_cast<const QtCanvas&>(image);
     const QImage& pixels = &from == this ? image_ : from.image();
-    if (turn == Turn::None) {
+    if (flip == Flip::None) {
         exact().drawImage(QPoint(at.x, at.y), pixels, toQRect(block));
     } else {
         const QImage part = pixels.copy(toQRect(block));
-        exact().drawImage(at.x, at.y, part.mirrored(turn != Turn::UpsideDown, turn != Turn::Mirrored));
+        exact().drawImage(at.x, at.y, part.mirrored(flip != Flip::Vertical, flip != Flip::Horizontal));
     }
 }
 

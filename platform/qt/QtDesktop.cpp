@@ -1,6 +1,6 @@
 #include "platform/qt/QtDesktop.h"
 
-#include "platform/Replay.h"
+#include "platform/paint/Replay.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
@@ -114,7 +114,7 @@ void QtDesktop::run() const {
     }
 }
 
-std::shared_ptr<ShownForm> QtDesktop::open(Form& form, Modality modality) {
+std::shared_ptr<FormView> QtDesktop::open(Form& form, Modality modality) {
     const FormWindow* front = inFront();
     if (front != nullptr) {
         place_ = front->place();
@@ -128,11 +128,11 @@ std::shared_ptr<ShownForm> QtDesktop::open(Form& form, Modality modality) {
     return window;
 }
 
-void QtDesktop::waitFor(ShownForm& window) {
-    QEventLoop untilRetired;
-    window.whenRetired = [&untilRetired] { untilRetired.quit(); };
-    untilRetired.exec();
-    window.whenRetired = nullptr;
+void QtDesktop::waitFor(FormView& window) {
+    QEventLoop untilClosed;
+    window.onClosed = [&untilClosed] { untilClosed.quit(); };
+    untilClosed.exec();
+    window.onClosed = nullptr;
 }
 
 // A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
@@ -148,7 +148,7 @@ void QtDesktop::Refresh(Form& form) {
         untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (window != nullptr) {
-        for (ShownSurface* surface : window->surfaces()) {
+        for (SurfaceView* surface : window->surfaces()) {
             surface->showNow();
         }
         window->repaint();
@@ -162,8 +162,8 @@ void QtDesktop::showBox(const std::string& text, const std::string& caption) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowIcon(icon_);
     box.setWindowFlags(dialogFlags);
-    const ScreenRoom room = parent != nullptr ? parent->room() : roomOn(*box.screen(), place_.frame);
-    fitToScale(box, parent != nullptr ? parent->scale() : 1, widestBox(room.inside().width()));
+    const WorkArea room = parent != nullptr ? parent->room() : workArea(*box.screen(), place_.frame);
+    fitToScale(box, parent != nullptr ? parent->scale() : 1, widestBox(room.area().width()));
     box.exec();
 }
 
@@ -172,7 +172,7 @@ void QtDesktop::End() {
     QApplication::exit();
 }
 
-void QtDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
+void QtDesktop::painted(PictureBox& box, const DisplayItem& /*item*/) {
     const Form& form = box.container().form();
     if (FormWindow* window = windowOf(form)) {
         auto* surface = static_cast<SurfaceWidget*>(window->surface(box));

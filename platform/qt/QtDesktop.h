@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/PictureCache.h"
-#include "platform/WindowDesktop.h"
+#include "platform/paint/PictureCache.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/KeyFilter.h"
+#include "platform/window/WindowDesktop.h"
 
 #include <QIcon>
 
@@ -24,11 +24,11 @@ public:
 
     void Refresh(Form& form) override;
     void End() override;
-    void painted(PictureBox& box, const PaintItem& item) override;
+    void painted(PictureBox& box, const DisplayItem& item) override;
 
 protected:
-    std::shared_ptr<ShownForm> open(Form& form, Modality modality) override;
-    void waitFor(ShownForm& window) override;
+    std::shared_ptr<FormView> open(Form& form, Modality modality) override;
+    void waitFor(FormView& window) override;
     void showBox(const std::string& text, const std::string& caption) override;
 
 private:

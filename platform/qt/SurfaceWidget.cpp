@@ -23,19 +23,19 @@ namespace {
 
 /// The frame around a picture box that has the keyboard's attention. It lies outside, so that it covers no card. Screen
 /// readers are not told of a focus frame.
-class FocusRing : public QFocusFrame {
+class FocusFrame : public QFocusFrame {
 public:
     using QFocusFrame::QFocusFrame;
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        painter.setPen(QPen(visibleLine(palette().color(QPalette::Highlight), palette()), 2));
+        painter.setPen(QPen(withContrast(palette().color(QPalette::Highlight), palette()), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 };
 
-constexpr int ringWidth = 3; // logical pixels, with a pixel of space inside
+constexpr int focusFrameWidth = 3; // logical pixels, with a pixel of space inside
 
 std::int16_t buttonCode(Qt::MouseButton button) {
     switch (button) {
@@ -74,17 +74,17 @@ double pixelRatio(const QWidget& widget) {
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
-    : QWidget(parent), ShownSurface(box, pictures), focusRing_(new FocusRing(parent)) {
+    : QWidget(parent), SurfaceView(box, pictures), focusFrame_(new FocusFrame(parent)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(box.listens());
     setAttribute(Qt::WA_AcceptTouchEvents, box.listens());
     setFocusPolicy(box.listens() ? Qt::StrongFocus : Qt::TabFocus);
-    focusRing_->hide();
+    focusFrame_->hide();
 }
 
 void SurfaceWidget::scale(double scale) {
     scale_ = scale;
-    placeFocusRing();
+    placeFocusFrame();
     update();
 }
 
@@ -115,9 +115,9 @@ PixelRect SurfaceWidget::bringUpToDate() {
         return {};
     }
     if (!canvas_ || canvas_->size() != pixelSize()) {
-        canvas_.emplace(pixelSize(), box()->painting().ground());
+        canvas_.emplace(pixelSize(), box()->displayList().ground());
     }
-    return shown_.bringUpToDate(*canvas_, box()->painting(), pixelScale());
+    return shown_.bringUpToDate(*canvas_, box()->displayList(), pixelScale());
 }
 
 // A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
@@ -145,20 +145,20 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
         const QRect whole = pixels.toAlignedRect() & image.rect();
         painter.drawImage(whole, image, whole);
     }
-    if (ring_) {
-        const PixelRect block = ringPixels(*ring_, pixelScale());
+    if (cursor_) {
+        const PixelRect block = cursorPixels(*cursor_, pixelScale());
         QtCanvas mark(block.size(), std::nullopt);
-        paintRing(mark, ring_->holds, pixelScale());
+        paintCursor(mark, cursor_->holds, pixelScale());
         painter.drawImage(block.left, block.top, mark.image());
     }
 }
 
 // Only where it was and where it comes to is painted again.
-void SurfaceWidget::showRing() {
-    const std::optional<Ring> before = std::exchange(ring_, hasFocus() ? pointer_.ring() : std::nullopt);
-    if (ring_ != before) {
-        for (const std::optional<Ring>& ring : {before, ring_}) {
-            update(ring ? logicalRect(ringPixels(*ring, pixelScale())) : QRect());
+void SurfaceWidget::showCursor() {
+    const std::optional<KeyboardCursor> before = std::exchange(cursor_, hasFocus() ? pointer_.cursor() : std::nullopt);
+    if (cursor_ != before) {
+        for (const std::optional<KeyboardCursor>& mark : {before, cursor_}) {
+            update(mark ? logicalRect(cursorPixels(*mark, pixelScale())) : QRect());
         }
     }
 }
@@ -167,8 +167,8 @@ void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = keyOf(*event);
     event->setAccepted(
         key &&
-        ShownSurface::key({.key = *key, .Shift = shiftKeys(event->modifiers()), .repeated = event->isAutoRepeat()}));
-    showRing();
+        SurfaceView::key({.key = *key, .Shift = shiftKeys(event->modifiers()), .repeated = event->isAutoRepeat()}));
+    showCursor();
 }
 
 Point SurfaceWidget::twips(QPointF inWidget) const {
@@ -178,16 +178,16 @@ Point SurfaceWidget::twips(QPointF inWidget) const {
 
 // At the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
 void SurfaceWidget::mouse(const QMouseEvent& event) {
-    ShownSurface::mouse(buttonCode(event.button()), heldButtons(event.buttons()), shiftKeys(event.modifiers()),
-                        twips(event.scenePosition() - mapTo(window(), QPoint())));
-    showRing();
+    SurfaceView::mouse(buttonCode(event.button()), heldButtons(event.buttons()), shiftKeys(event.modifiers()),
+                       twips(event.scenePosition() - mapTo(window(), QPoint())));
+    showCursor();
 }
 
 // A touch that is taken comes as no mouse event.
 bool SurfaceWidget::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::TouchBegin:
-        finger_.cancel(); // of whose lift the toolkit may not have told
+        gesture_.cancel(); // of whose lift the toolkit may not have told
         [[fallthrough]];
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
@@ -195,17 +195,17 @@ bool SurfaceWidget::event(QEvent* event) {
         touch(static_cast<QTouchEvent&>(*event));
         break;
     case QEvent::TouchCancel:
-        finger_.cancel();
+        gesture_.cancel();
         break;
     default:
         return QWidget::event(event);
     }
-    if (!finger_.waits()) {
+    if (!gesture_.waits()) {
         longPress_.stop();
     } else if (!longPress_.isActive()) {
         longPress_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
     }
-    showRing();
+    showCursor();
     return true;
 }
 
@@ -214,11 +214,11 @@ void SurfaceWidget::touch(const QTouchEvent& event) {
     for (const QEventPoint& point : event.points()) {
         const Point at = twips(point.position());
         if (point.state() == QEventPoint::Pressed) {
-            finger_.touch(point.id(), at, twips({startDrag, 0}).x);
+            gesture_.touch(point.id(), at, twips({startDrag, 0}).x);
         } else if (point.state() == QEventPoint::Updated) {
-            finger_.move(point.id(), at);
+            gesture_.move(point.id(), at);
         } else if (point.state() == QEventPoint::Released) {
-            finger_.lift(point.id(), at);
+            gesture_.lift(point.id(), at);
         }
     }
 }
@@ -226,14 +226,14 @@ void SurfaceWidget::touch(const QTouchEvent& event) {
 void SurfaceWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == longPress_.timerId()) {
         longPress_.stop();
-        finger_.longPress();
-        showRing();
+        gesture_.longPress();
+        showCursor();
     }
 }
 
 // The toolkit forgets where a button went down when another window comes to block this one.
-void SurfaceWidget::inputIsBack() {
-    forgotten_ = hand_.holds();
+void SurfaceWidget::inputUnblocked() {
+    forgotten_ = capture_.holds();
     if (forgotten_) {
         window()->windowHandle()->installEventFilter(this);
     }
@@ -261,7 +261,7 @@ bool SurfaceWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
 
 // A window that goes from the screen is not told when the button is let go.
 void SurfaceWidget::hideEvent(QHideEvent* /*event*/) {
-    hidden_ = hand_.holds();
+    hidden_ = capture_.holds();
 }
 
 void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
@@ -270,7 +270,7 @@ void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
             this,
             [this] {
                 letGo();
-                showRing();
+                showCursor();
             },
             Qt::QueuedConnection);
     }
@@ -285,19 +285,19 @@ void SurfaceWidget::changeEvent(QEvent* event) {
 
 void SurfaceWidget::focusInEvent(QFocusEvent* event) {
     const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    placeFocusRing();
-    focusRing_->setVisible(byKeyboard);
-    focusRing_->stackUnder(this);
-    showRing();
+    placeFocusFrame();
+    focusFrame_->setVisible(byKeyboard);
+    focusFrame_->stackUnder(this);
+    showCursor();
 }
 
-void SurfaceWidget::placeFocusRing() {
-    focusRing_->setGeometry(geometry().adjusted(-ringWidth, -ringWidth, ringWidth, ringWidth));
+void SurfaceWidget::placeFocusFrame() {
+    focusFrame_->setGeometry(geometry().adjusted(-focusFrameWidth, -focusFrameWidth, focusFrameWidth, focusFrameWidth));
 }
 
 void SurfaceWidget::focusOutEvent(QFocusEvent* /*event*/) {
-    focusRing_->hide();
-    showRing();
+    focusFrame_->hide();
+    showCursor();
 }
 
 } // namespace tumble

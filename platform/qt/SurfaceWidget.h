@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ShownSurface.h"
 #include "platform/qt/QtCanvas.h"
+#include "platform/window/SurfaceView.h"
 
 #include <QBasicTimer>
 #include <QWidget>
@@ -17,7 +17,7 @@ double pixelRatio(const QWidget& widget);
 
 /// Shows a picture box's painting, in the exact pixels of the screen, and reports to it what mouse, keys and fingers
 /// do.
-class SurfaceWidget : public QWidget, public ShownSurface {
+class SurfaceWidget : public QWidget, public SurfaceView {
 public:
     SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent);
 
@@ -27,7 +27,7 @@ public:
     /// The painting has changed; it reaches the screen after the event, or with `showNow`.
     void changed();
     void showNow() override;
-    void inputIsBack() override;
+    void inputUnblocked() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -51,20 +51,20 @@ private:
     PixelSize pixelSize() const;
     PixelRect bringUpToDate();
     QRect logicalRect(const PixelRect& pixels) const;
-    void placeFocusRing();
+    void placeFocusFrame();
     Point twips(QPointF inWidget) const;
     void mouse(const QMouseEvent& event);
     void touch(const QTouchEvent& event);
-    void showRing();
+    void showCursor();
 
     QBasicTimer longPress_;
-    std::optional<Ring> ring_;       // as it shows
-    std::optional<QtCanvas> canvas_; // in device pixels, once it has been painted
+    std::optional<KeyboardCursor> cursor_; // as it shows
+    std::optional<QtCanvas> canvas_;       // in device pixels, once it has been painted
     double scale_ = 1;
     bool outOfDate_ = false;
     bool forgotten_ = false; // by the toolkit, that a button went down here and is held
     bool hidden_ = false;    // while a button was held
-    QWidget* focusRing_;
+    QWidget* focusFrame_;
 };
 
 } // namespace tumble

@@ -27,7 +27,7 @@ void page_focus(int element);
 /// A dialog is modal, another window gives the page its name. Its first control has the focus.
 void page_show(int element);
 /// Says that the game is over and offers another.
-void page_over();
+void page_gameOver();
 
 // These two suspend the running handler, of which there is one at most: until `page_resume`, or until the screen shows
 // what was painted.

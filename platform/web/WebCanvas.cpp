@@ -9,7 +9,7 @@ void WebCanvas::resize(PixelSize size) {
     page_canvasSize(element_, size.width, size.height);
 }
 
-std::unique_ptr<Canvas> WebCanvas::another(PixelSize size, std::optional<Colour> ground) const {
+std::unique_ptr<Canvas> WebCanvas::createSimilar(PixelSize size, std::optional<Colour> ground) const {
     auto canvas = std::make_unique<WebCanvas>(page_canvasMake());
     canvas->resize(size);
     if (ground) {
@@ -38,7 +38,7 @@ void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& 
 }
 
 void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    paint(path, toPixels, pen.colour, pen.width, pen.nib == Nib::Round);
+    paint(path, toPixels, pen.colour, pen.width, pen.capAndJoin == CapAndJoin::Round);
 }
 
 void WebCanvas::paint(const Path& path, const Transform& toPixels, Colour colour, double width, bool isRound) const {
@@ -48,11 +48,11 @@ void WebCanvas::paint(const Path& path, const Transform& toPixels, Colour colour
                     width, isRound);
 }
 
-void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) {
+void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) {
     if (!block.empty()) {
         page_canvasDraw(element_, static_cast<const WebCanvas&>(image).element_, block.left, block.top, block.width(),
-                        block.height(), at.x, at.y, turn == Turn::Mirrored || turn == Turn::Half,
-                        turn == Turn::UpsideDown || turn == Turn::Half);
+                        block.height(), at.x, at.y, flip == Flip::Horizontal || flip == Flip::Both,
+                        flip == Flip::Vertical || flip == Flip::Both);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Canvas.h"
+#include "platform/paint/Canvas.h"
 #include "platform/web/Page.h"
 
 namespace tumble {
@@ -18,13 +18,13 @@ public:
     void resize(PixelSize size);
 
     PixelSize size() const override { return size_; }
-    std::unique_ptr<Canvas> another(PixelSize size, std::optional<Colour> ground) const override;
+    std::unique_ptr<Canvas> createSimilar(PixelSize size, std::optional<Colour> ground) const override;
     void clip(const PixelRect& block) override;
     void fill(const PixelRect& block, Colour colour) override;
     void fill(const Path& path, const Transform& toPixels, Colour colour) override;
     void fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) override;
     void stroke(const Path& path, const Transform& toPixels, const Pen& pen) override;
-    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Turn turn) override;
+    void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) override;
 
 private:
     /// Fills, or strokes with a pen of a width; of the colour of the window, with the texture that was set.

@@ -27,8 +27,8 @@ WebDesktop::WebDesktop(Application application, PicturePainter painter)
     page_listen();
 }
 
-std::shared_ptr<ShownForm> WebDesktop::open(Form& form, Modality modality) {
-    const auto view = std::make_shared<FormView>(form, modality, pictures_);
+std::shared_ptr<FormView> WebDesktop::open(Form& form, Modality modality) {
+    const auto view = std::make_shared<FormElement>(form, modality, pictures_);
     view->fit(page_);
     return view;
 }
@@ -36,7 +36,7 @@ std::shared_ptr<ShownForm> WebDesktop::open(Form& form, Modality modality) {
 void WebDesktop::resized(PixelSize page) {
     page_ = page;
     for (const auto& window : windows()) {
-        static_cast<FormView&>(*window).fit(page);
+        static_cast<FormElement&>(*window).fit(page);
     }
 }
 
@@ -44,13 +44,13 @@ void WebDesktop::suspend(void (*wait)()) {
     if (std::exchange(suspended_, true)) {
         std::abort(); // there is one place for a stack
     }
-    everySurface(&ShownSurface::showNow);
+    forEachSurface(&SurfaceView::showNow);
     wait();
     suspended_ = false;
 }
 
-void WebDesktop::waitFor(ShownForm& window) {
-    window.whenRetired = page_resume;
+void WebDesktop::waitFor(FormView& window) {
+    window.onClosed = page_resume;
     suspend(page_suspend);
 }
 
@@ -69,7 +69,7 @@ void WebDesktop::Refresh(Form& form) {
     }
 }
 
-void WebDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
+void WebDesktop::painted(PictureBox& box, const DisplayItem& /*item*/) {
     Form& form = box.container().form();
     if (form.MousePointer() == Pointer::Hourglass && emscripten_get_now() - lastFrame_ >= leastFrame) {
         Refresh(form);
@@ -78,21 +78,21 @@ void WebDesktop::painted(PictureBox& box, const PaintItem& /*item*/) {
 
 void WebDesktop::End() {
     ended_ = true;
-    page_over();
+    page_gameOver();
 }
 
 void WebDesktop::input(int element, int value) {
     if (element == box_) {
         page_remove(std::exchange(box_, 0));
         page_resume();
-    } else if (const ShownForm* window = inFront()) {
+    } else if (const FormView* window = inFront()) {
         window->input(element, value);
     }
 }
 
 bool WebDesktop::key(int focus, const KeyPress& press) {
     if (box_ == 0) {
-        ShownForm* window = inFront();
+        FormView* window = inFront();
         return window != nullptr && window->key(focus, press);
     }
     const bool closes = press.key == Key::Enter || press.key == Key::Esc;
@@ -128,16 +128,16 @@ EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, char letter, std::int16_t
 
 EMSCRIPTEN_KEEPALIVE void page_mouse(int element, std::int16_t changed, std::int16_t held, std::int16_t Shift, double x,
                                      double y) {
-    page().handle(element, [=](Surface& surface) { surface.mouse(changed, held, Shift, surface.twips(x, y)); });
+    page().handle(element, [=](SurfaceElement& surface) { surface.mouse(changed, held, Shift, surface.twips(x, y)); });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_finger(int element, int event, int number, double x, double y) {
-    page().handle(element, [=](Surface& surface) {
-        surface.finger(static_cast<FingerEvent>(event), number, surface.twips(x, y), startDragDistance);
+    page().handle(element, [=](SurfaceElement& surface) {
+        surface.finger(static_cast<TouchEvent>(event), number, surface.twips(x, y), startDragDistance);
     });
 }
 
 EMSCRIPTEN_KEEPALIVE void page_letGo() {
-    page().handle([] { page().everySurface(&ShownSurface::letGo); });
+    page().handle([] { page().forEachSurface(&SurfaceView::letGo); });
 }
 }

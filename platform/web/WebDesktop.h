@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/PictureCache.h"
-#include "platform/WindowDesktop.h"
-#include "platform/web/FormView.h"
+#include "platform/paint/PictureCache.h"
+#include "platform/web/FormElement.h"
+#include "platform/window/WindowDesktop.h"
 
 #include <memory>
 #include <string>
@@ -19,7 +19,7 @@ public:
 
     void Refresh(Form& form) override;
     void End() override;
-    void painted(PictureBox& box, const PaintItem& item) override;
+    void painted(PictureBox& box, const DisplayItem& item) override;
 
     // What the page reports.
 
@@ -29,13 +29,13 @@ public:
         if (!ended_) {
             const auto kept = windows(); // until no handler of theirs runs
             report();
-            everySurface(&ShownSurface::showNow);
+            forEachSurface(&SurfaceView::showNow);
         }
     }
     /// A report of one picture box, if that is still there.
     template<class Report>
     void handle(int element, const Report& report) {
-        if (auto* surface = static_cast<Surface*>(WindowDesktop::surface(element))) {
+        if (auto* surface = static_cast<SurfaceElement*>(WindowDesktop::surface(element))) {
             handle([&] { report(*surface); });
         }
     }
@@ -45,8 +45,8 @@ public:
     bool key(int focus, const KeyPress& press);
 
 protected:
-    std::shared_ptr<ShownForm> open(Form& form, Modality modality) override;
-    void waitFor(ShownForm& window) override;
+    std::shared_ptr<FormView> open(Form& form, Modality modality) override;
+    void waitFor(FormView& window) override;
     void showBox(const std::string& text, const std::string& caption) override;
 
 private:

@@ -46,10 +46,10 @@ void expectCaptionsFit(const QWidget* window) {
         int flags = Qt::TextShowMnemonic | (qobject_cast<QLabel*>(widget) != nullptr ? Qt::TextWordWrap : 0);
         QString text = widget->property("text").toString();
         if (const auto* option = dynamic_cast<const WrappingRadioButton*>(widget)) {
-            room = option->captionRoom();
+            room = option->captionArea();
             flags |= Qt::TextWordWrap;
         } else if (const auto* frame = dynamic_cast<const CaptionedFrame*>(widget)) {
-            room = frame->captionRoom();
+            room = frame->captionArea();
             text = frame->title();
         }
         if (text.isEmpty()) {

@@ -91,8 +91,8 @@ TEST_F(Inputs, KeysMoveAPointerWhoseRingShowsWithTheFocus) {
     }
     const int side = qRound(26 * surface->devicePixelRatioF());
     EXPECT_TRUE(QTest::qWaitFor([&] {
-        const QSize ring = difference(onScreen(), bare).size();
-        return std::abs(ring.width() - side) <= 1 && std::abs(ring.height() - side) <= 1;
+        const QSize cursor = difference(onScreen(), bare).size();
+        return std::abs(cursor.width() - side) <= 1 && std::abs(cursor.height() - side) <= 1;
     }));
     const QImage ringed = onScreen();
     QTest::keyClick(surface, Qt::Key_Tab);

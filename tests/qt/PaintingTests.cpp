@@ -1,7 +1,7 @@
 #include "Windows.h"
 
 #include "packs/CardPack.h"
-#include "platform/Replay.h"
+#include "platform/paint/Replay.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
 #include "table/CardTracker.h"
@@ -89,13 +89,13 @@ protected:
     QImage painted(QSize size) {
         QtCanvas canvas({size.width(), size.height()}, tableGreen);
         const PixelScale scale(scaleOf(window) * window->devicePixelRatioF());
-        for (const PaintItem& item : log()) {
+        for (const DisplayItem& item : log()) {
             paint(canvas, item, scale, pictures);
         }
         return canvas.image();
     }
 
-    std::vector<PaintItem>& log() { return desktop.log; }
+    std::vector<DisplayItem>& log() { return desktop.log; }
 
     PictureBox& box = mainMod.table().picTable;
     CardTracker tracker;

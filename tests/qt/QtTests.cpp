@@ -1,7 +1,7 @@
 #include "Windows.h"
 
 #include "cards/CardImages.h"
-#include "platform/Replay.h"
+#include "platform/paint/Replay.h"
 #include "platform/qt/QtCanvas.h"
 
 #include <QImage>
@@ -133,7 +133,7 @@ TEST_F(Windows, WhatShowsIsWhatWasPainted) {
 }
 
 // At scale 1 and a ratio of 1 a pixel is 15 twips; elsewhere the mouse is reported in whole twips too, so that no step
-// is lost and the card never slips under the hand.
+// is lost and the card never slips under the capture.
 TEST_F(Windows, ASlowDragKeepsTheCardUnderTheHandAtEveryScale) {
     openDialog();
     mainMod.options().optDeck24Card.Select();

@@ -183,7 +183,7 @@ TEST_F(Windows, TheTableShowsEmptyUnderAnHourglassBeforeTheDeal) {
     bool shown = false;
     const OnFirstPaint atTheTable("picTable", [&](QWidget& surface) {
         shown = true;
-        EXPECT_TRUE(mainMod.table().picTable.painting().items().empty());
+        EXPECT_TRUE(mainMod.table().picTable.displayList().items().empty());
         EXPECT_EQ(surface.cursor().shape(), Qt::WaitCursor);
         QMouseEvent press(QEvent::MouseButtonPress, {9, 9}, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
         QApplication::sendEvent(&surface, &press);

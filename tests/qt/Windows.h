@@ -22,11 +22,11 @@ namespace tumble {
 class LoggingDesktop : public QtDesktop {
 public:
     LoggingDesktop() : QtDesktop(application()) {}
-    void painted(PictureBox& box, const PaintItem& item) override {
+    void painted(PictureBox& box, const DisplayItem& item) override {
         log.push_back(item);
         QtDesktop::painted(box, item);
     }
-    std::vector<PaintItem> log;
+    std::vector<DisplayItem> log;
 };
 /// The file that tells the offscreen platform of the tests' screens.
 QByteArray screensFile();

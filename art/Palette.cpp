@@ -1,0 +1,49 @@
+#include "art/Palette.h"
+
+#include <cstddef>
+
+namespace tumble {
+
+namespace {
+
+/// A mixture of black, red, yellow and white in the given parts.
+Colour mixture(int blacks, int reds, int yellows, int whites) {
+    const int parts = blacks + reds + yellows + whites;
+    const auto mixed = [&](std::size_t channel) {
+        const auto of = [channel](Colour ink) { return channels(ink).at(channel); };
+        return (reds * of(red) + yellows * of(yellow) + whites * of(white) + parts / 2) / parts;
+    };
+    return rgb(mixed(0), mixed(1), mixed(2));
+}
+
+} // namespace
+
+std::vector<Colour> faceColours() {
+    constexpr int parts = 9;
+    constexpr int fineParts = 19;
+    std::vector<Colour> colours;
+    for (int blacks = 0; blacks <= parts; ++blacks) {
+        for (int reds = 0; blacks + reds <= parts; ++reds) {
+            for (int yellows = 0; blacks + reds + yellows <= parts; ++yellows) {
+                colours.push_back(mixture(blacks, reds, yellows, parts - blacks - reds - yellows));
+            }
+        }
+    }
+    for (int ink = 1; ink < fineParts; ++ink) {
+        colours.push_back(mixture(ink, 0, 0, fineParts - ink));
+        colours.push_back(mixture(0, ink, 0, fineParts - ink));
+    }
+    return colours;
+}
+
+std::vector<Colour> suitColours() {
+    constexpr int parts = 7;
+    std::vector<Colour> colours = {white};
+    for (int ink = 1; ink <= parts; ++ink) {
+        colours.push_back(mixture(ink, 0, 0, parts - ink));
+        colours.push_back(mixture(0, ink, 0, parts - ink));
+    }
+    return colours;
+}
+
+} // namespace tumble

@@ -1,0 +1,212 @@
+#pragma once
+
+#include "platform/base/NonMovable.h"
+#include "platform/forms/Keys.h"
+#include "platform/paint/DrawingSurface.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tumble {
+
+class Form;
+class PictureBox;
+class Label;
+class CommandButton;
+class OptionButton;
+class Frame;
+class Slider;
+
+using AnyControl = std::variant<PictureBox*, Label*, CommandButton*, OptionButton*, Frame*, Slider*>;
+using Handler = std::function<void()>;
+
+/// Where a control lies in its container, in twips.
+struct Place {
+    float Left;
+    float Top;
+    float Width;
+    float Height;
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
+struct Font {
+    float points = 8.25F;
+    bool bold = false;
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+/// What holds controls: a form or a frame. The controls are its owner's members; it only lists them, in their order.
+class Container : private NonMovable {
+public:
+    virtual ~Container() = default;
+
+    virtual Form& form() = 0;
+    /// In twips.
+    virtual float Width() const = 0;
+    const std::vector<AnyControl>& controls() const { return controls_; }
+    void add(AnyControl control) { controls_.push_back(control); }
+
+private:
+    std::vector<AnyControl> controls_;
+};
+
+/// What every control has. Controls hold their state; the desktop shows it and calls the operations and events that
+/// answer to what the player does, as a test does. On a form that takes no input a button does nothing. An ampersand
+/// marks a caption's access key; the caption of a picture box or a slider does not show, it is what a screen reader
+/// calls the control.
+class Control : private NonMovable {
+public:
+    Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
+
+    const std::string& Name() const { return name_; }
+    const Place& place() const { return place_; }
+    int TabIndex() const { return tabIndex_; }
+    Container& container() const { return container_; }
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string caption);
+    /// Whether what the player does reaches the control.
+    bool takesInput() const;
+
+protected:
+    ~Control() = default;
+    /// Tells the desktop to show the control's new state.
+    void changed();
+
+private:
+    Container& container_;
+    std::string name_;
+    std::string caption_;
+    Place place_;
+    int tabIndex_;
+};
+
+/// A caption without the ampersand, and the letter that it marks, a capital; 0 when it marks none.
+struct PlainCaption {
+    explicit PlainCaption(std::string caption);
+
+    std::string text;
+    char accessKey = 0;
+};
+
+/// A drawing surface that hears of the mouse from a `MouseCapture`: button 1 left, 2 right, 4 middle (for a move, the
+/// sum of those held); shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips.
+class PictureBox : public Control, public DrawingSurface {
+public:
+    using MouseEvent = std::function<void(std::int16_t Button, std::int16_t Shift, float X, float Y)>;
+
+    PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+               Colour backColor);
+
+    /// Whether it hears of anything; only then do keys and fingers act on it.
+    bool listens() const { return MouseDown != nullptr; }
+
+    MouseEvent MouseDown;
+    MouseEvent MouseMove;
+    MouseEvent MouseUp;
+    /// The part in which a held button moves things, in whole twips; at first, everywhere.
+    Rect dragBounds{.left = -1e6F, .top = -1e6F, .right = 1e6F, .bottom = 1e6F};
+
+protected:
+    void painted(const DisplayItem& item) override;
+};
+
+enum class TextAlign { Left, Centre };
+
+class Label : public Control {
+public:
+    Label(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font = {},
+          TextAlign align = TextAlign::Left);
+
+    const Font font;
+    const TextAlign align;
+
+    // What it tells of other controls of its form, for those who do not see where it stands.
+    const Control* names = nullptr;     // the control whose name it shows
+    const Control* describes = nullptr; // the one that it tells more of; of a frame, the choice in it
+};
+
+enum class ButtonFace { Caption, IconAboveCaption };
+
+class CommandButton : public Control {
+public:
+    CommandButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+                  Handler click, std::vector<Key> pressedBy = {}, ButtonFace look = ButtonFace::Caption);
+
+    void Click() const;
+    /// Whether the key presses it wherever the focus is.
+    bool pressedBy(Key key) const;
+
+    const ButtonFace face;
+
+private:
+    Handler click_;
+    std::vector<Key> keys_;
+};
+
+enum class Choice { Open, Selected };
+
+/// One of the choices of its container, of which exactly one is selected.
+class OptionButton : public Control {
+public:
+    OptionButton(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
+                 Handler click, std::string tag = {}, Choice choice = Choice::Open);
+
+    bool Value() const { return value_; }
+    /// Makes this the selected choice and raises its click; nothing happens when it is already.
+    void Select();
+    const std::string& Tag() const { return tag_; }
+    /// The choice so many after this one in its container, or before it; null where there is none.
+    OptionButton* beside(int step) const;
+
+private:
+    Handler click_;
+    std::string tag_;
+    bool value_;
+};
+
+/// A titled box around the controls in it.
+class Frame : public Control, public Container {
+public:
+    Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font);
+
+    Form& form() override { return Control::container().form(); }
+    float Width() const override { return place().Width; }
+
+    const Font font;
+};
+
+/// An upright slider over whole numbers, its minimum at the top.
+class Slider : public Control {
+public:
+    Slider(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, int min,
+           int max, Handler change);
+
+    int Min() const { return min_; }
+    void Min(int min);
+    int Max() const { return max_; }
+    void Max(int max);
+    int Value() const { return value_; }
+    /// Brought into the range; raises the change when the value becomes another.
+    void Value(int value);
+    /// Likewise, as the player does: nothing happens while its form takes no input.
+    void Slide(int value);
+
+private:
+    int min_;
+    int max_;
+    int value_;
+    Handler change_;
+};
+
+inline const Control& asControl(const AnyControl& control) {
+    return *std::visit([](const Control* each) { return each; }, control);
+}
+
+/// What a key does to the control that has the focus. The control that has it then; none for a key that means nothing.
+std::optional<AnyControl> press(const AnyControl& focused, Key key);
+
+} // namespace tumble

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/forms/Controls.h"
+
+#include <string>
+
+namespace tumble {
+
+enum class Modality { Modeless, Modal };
+
+/// The pointer's shape over a form.
+enum class Pointer { Default = 0, Hourglass = 11 };
+
+/// A window: its caption, its client area and its controls, which are members of the class that derives from it.
+/// Unloading a form takes it off the screen; showing it again loads it afresh.
+class Form : public Container {
+public:
+    /// Client size in twips.
+    Form(std::string caption, float width, float height);
+    ~Form() override;
+
+    Form& form() override { return *this; }
+    const std::string& Caption() const { return caption_; }
+    /// Shows the next time the form is loaded.
+    void Caption(std::string caption) { caption_ = std::move(caption); }
+    float Width() const override { return width_; }
+    float Height() const { return height_; }
+
+    /// Loads the form if it is not loaded and shows it, centred on the screen. Modal: no other form takes input, and
+    /// the call returns when the form is unloaded.
+    void Show(Modality modality = Modality::Modeless);
+    void Hide();
+    /// May be called from inside one of the form's own handlers.
+    void Unload();
+    /// Brings what was painted to the screen at once.
+    void Refresh();
+    /// While the hourglass shows, the form takes no input and each painting reaches the screen as it is made.
+    void MousePointer(Pointer pointer);
+    Pointer MousePointer() const { return pointer_; }
+
+    /// Presses the button that the key stands for, if there is one.
+    void press(Key key) const;
+    /// Presses the button whose caption marks the letter, a capital, as its access key; false if there is none.
+    bool pressAccessKey(char letter) const;
+
+    /// Runs when the form is loaded, before it shows.
+    virtual void Form_Load() {}
+    /// Runs when the player closes the window by its frame.
+    virtual void Form_Close() { Unload(); }
+
+private:
+    std::string caption_;
+    float width_;
+    float height_;
+    Pointer pointer_ = Pointer::Default;
+    bool loaded_ = false;
+};
+
+} // namespace tumble

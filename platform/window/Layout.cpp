@@ -1,0 +1,86 @@
+#include "platform/window/Layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tumble {
+
+namespace {
+
+constexpr float optionGap = 45; // twips, as below
+constexpr float mostToTheRight = 240;
+constexpr double mostOfWindow = 0.9; // for a dialog and its frame
+
+double unscaled(float twips) {
+    return static_cast<double>(twips) / static_cast<double>(twipsPerPixel);
+}
+
+int rounded(double pixels) {
+    return static_cast<int>(std::lround(pixels));
+}
+
+} // namespace
+
+FormSize::FormSize(float Width, float Height) : width(unscaled(Width)), height(unscaled(Height)) {}
+
+PixelSize FormSize::at(double scale) const {
+    return {rounded(width * scale), rounded(height * scale)};
+}
+
+double FormSize::scaleToFit(double roomWidth, double roomHeight) const {
+    return std::min(roomWidth / width, roomHeight / height);
+}
+
+double showable(double scale, double ratio) {
+    return std::clamp(scale, static_cast<double>(leastFactor) / ratio, static_cast<double>(largestFactor) / ratio);
+}
+
+PixelRect Layout::pixels(const Place& place) const {
+    const auto pixel = [this](float twips) {
+        return static_cast<int>(std::floor(static_cast<double>(twips) * scale / static_cast<double>(twipsPerPixel)));
+    };
+    return {.left = pixel(place.Left),
+            .top = pixel(place.Top),
+            .right = pixel(place.Left + place.Width) - 1,
+            .bottom = pixel(place.Top + place.Height) - 1};
+}
+
+Layout layoutOf(const FormSize& form, PixelSize window, double ratio) {
+    const double scale = showable(form.scaleToFit(window.width, window.height), ratio);
+    const auto [width, height] = form.at(scale);
+    const int left = rounded((window.width - width) / 2.0);
+    const int top = rounded((window.height - height) / 2.0);
+    return {.scale = scale, .content = form.at(scale).at({left, top})};
+}
+
+Layout layoutOver(const FormSize& below, const FormSize& dialog, PixelSize window) {
+    const double scale =
+        std::min(layoutOf(below, window, 1).scale, mostOfWindow * dialog.scaleToFit(window.width, window.height));
+    return {.scale = scale, .content = dialog.at(scale).at({})};
+}
+
+Place allottedPlace(const Control& control) {
+    return control.place();
+}
+
+Place allottedPlace(const OptionButton& option) {
+    const Place room = option.place();
+    const float end = room.Left + room.Width;
+    float free = room.Height;
+    float right = std::min(option.container().Width() - end - optionGap, mostToTheRight);
+    for (const AnyControl& any : option.container().controls()) {
+        const Control& other = asControl(any);
+        const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
+        const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
+        const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;
+        if (gap < 0 && otherLeft > room.Left) {
+            right = std::min(right, otherLeft - end - optionGap);
+        }
+        if (&other != &option && !sideways) {
+            free = std::clamp(gap, 0.0F, free);
+        }
+    }
+    return {room.Left, room.Top - free / 2, room.Width + std::max(right, 0.0F), room.Height + free};
+}
+
+} // namespace tumble

@@ -1,0 +1,38 @@
+#include "platform/window/SurfaceView.h"
+
+namespace tumble {
+
+void SurfaceView::mouse(std::int16_t changed, std::int16_t held, std::int16_t Shift, Point at) {
+    const auto keys = static_cast<std::int16_t>(Shift & (shiftKey | controlKey | altKey));
+    if (changed == 0) {
+        pointer_.move(held, keys, at);
+    } else if ((held & changed) != 0) {
+        pointer_.press(changed, keys, at);
+    } else {
+        pointer_.release(changed, keys, at);
+    }
+}
+
+void SurfaceView::finger(TouchEvent event, int number, Point at, float startDragDistance) {
+    switch (event) {
+    case TouchEvent::Touch:
+        gesture_.touch(number, at, startDragDistance);
+        break;
+    case TouchEvent::Move:
+        gesture_.move(number, at);
+        break;
+    case TouchEvent::Lift:
+        gesture_.lift(number, at);
+        break;
+    case TouchEvent::LongPress:
+        gesture_.longPress();
+        break;
+    }
+}
+
+void SurfaceView::letGo() {
+    gesture_.cancel();
+    capture_.letGo();
+}
+
+} // namespace tumble
