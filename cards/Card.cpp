@@ -2,7 +2,7 @@
 
 #include "cards/CardImages.h"
 #include "cards/Pile.h"
-#include "platform/forms/Desktop.h"
+#include "platform/forms/MessageBox.h"
 
 #include <algorithm>
 #include <cmath>
@@ -81,7 +81,7 @@ void Card::setAttributes(DrawingSurface* picture, CardSize size, FaceDirection f
         setSize(1233, 1918);
         break;
     default:
-        desktop().MsgBox("Invalid card size!");
+        MsgBox("Invalid card size!");
     }
     backImage_ = &CardImages::find("CardBack" + std::to_string(backStyle));
 }

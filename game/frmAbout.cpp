@@ -1,7 +1,5 @@
 #include "game/frmAbout.h"
 
-#include "platform/forms/Desktop.h"
-
 #include <string>
 
 namespace tumble {

@@ -1,7 +1,7 @@
 #include "game/frmTumble.h"
 
 #include "game/frmAbout.h"
-#include "platform/forms/Desktop.h"
+#include "platform/forms/MessageBox.h"
 
 #include <cassert>
 
@@ -66,11 +66,11 @@ void frmTumble::cmdAbout_Click() {
 }
 
 void frmTumble::cmdHelp_Click() {
-    desktop().MsgBox("Drag each of the cards to one of the corner piles. Each pile must\r\n"
-                     "contain a different suit, and the cards must be built up from\r\n"
-                     "lowest card (Two) to highest card (Ace).  Right-click on a card to\r\n"
-                     "flip it (you cannot flip piles).",
-                     "Tumble Instructions");
+    MsgBox("Drag each of the cards to one of the corner piles. Each pile must\r\n"
+           "contain a different suit, and the cards must be built up from\r\n"
+           "lowest card (Two) to highest card (Ace).  Right-click on a card to\r\n"
+           "flip it (you cannot flip piles).",
+           "Tumble Instructions");
 }
 
 void frmTumble::cmdExit_Click() {

@@ -5,6 +5,7 @@
 #include "packs/Sorter.h"
 #include "platform/base/Random.h"
 #include "platform/forms/Desktop.h"
+#include "platform/forms/MessageBox.h"
 #include "table/CardTracker.h"
 
 #include <algorithm>
@@ -28,7 +29,7 @@ void CardPack::accepter(std::shared_ptr<PileAccepter> accept) {
 void CardPack::init(CardSize size, FaceDirection faceDir, BackStyle backStyle, DeckType dckType) {
     const auto deck = CardConstants::deckMakeUp(dckType);
     if (!deck) {
-        desktop().MsgBox("Invalid Deck Type!");
+        MsgBox("Invalid Deck Type!");
     }
     const auto [copies, lowestRank, jokers] = deck.value_or(DeckMakeUp());
     for (int joker = 0; joker < jokers; ++joker) {
@@ -83,7 +84,7 @@ void CardPack::sort(SortOrder sortOrder) {
         Sorter::sortCards(cards_, OrderSuitRank());
         break;
     default:
-        desktop().MsgBox("Invalid pack sorting order!");
+        MsgBox("Invalid pack sorting order!");
         return;
     }
     if (sortOrder == soRankSuitDesc || sortOrder == soSuitRankDesc) {

@@ -1,7 +1,5 @@
 #include "packs/frmTumbleOptions.h"
 
-#include "platform/forms/Desktop.h"
-
 #include <utility>
 
 namespace tumble {

@@ -1,7 +1,7 @@
 #include "rules/PileAccepterTumble.h"
 
 #include "cards/Card.h"
-#include "platform/forms/Desktop.h"
+#include "platform/forms/MessageBox.h"
 
 #include <utility>
 
@@ -14,7 +14,7 @@ void PileAccepterTumble::dckType(DeckType dType) {
     const auto deck = CardConstants::deckMakeUp(dType).value_or(DeckMakeUp());
     cardsToWin_ = deck.cards();
     if (cardsToWin_ == 0) {
-        desktop().MsgBox("Invalid Deck Type!");
+        MsgBox("Invalid Deck Type!");
         return;
     }
     lowestRank_ = deck.lowestRank;
@@ -22,12 +22,12 @@ void PileAccepterTumble::dckType(DeckType dType) {
 
 bool PileAccepterTumble::acceptCard(const Card& pileCard, const Card& crd) {
     if (const std::string why = refusal(pileCard, crd); !why.empty()) {
-        desktop().MsgBox(why, "Invalid Move!");
+        MsgBox(why, "Invalid Move!");
         return false;
     }
     // The card being accepted is not on its pile yet.
     if (numPileCards_() == cardsToWin_ - 1) {
-        desktop().MsgBox("CONGRATULATIONS!", "YOU WIN");
+        MsgBox("CONGRATULATIONS!", "YOU WIN");
     }
     return true;
 }

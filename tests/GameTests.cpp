@@ -237,9 +237,9 @@ TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
     EXPECT_EQ(table.painted(), "CardBack1 3000,4500; SixSpades 3000,100; edge of 1 3000,100; CardBack1 3000,4500");
     table.program.table().cmdHelp.Click();
     EXPECT_EQ(table.messages(),
-              "Tumble Instructions: Drag each of the cards to one of the corner piles. Each pile must\r\n"
-              "contain a different suit, and the cards must be built up from\r\n"
-              "lowest card (Two) to highest card (Ace).  Right-click on a card to\r\n"
+              "Tumble Instructions: Drag each of the cards to one of the corner piles. Each pile must\n"
+              "contain a different suit, and the cards must be built up from\n"
+              "lowest card (Two) to highest card (Ace).  Right-click on a card to\n"
               "flip it (you cannot flip piles).");
 }
 

@@ -148,8 +148,11 @@ public:
                 Point at;
                 words >> number >> at.x >> at.y;
                 place->second(number, at);
+            } else if (word == "box") {
+                MsgBox("text");
+                capture.inputUnblocked();
             } else if (word == "longPress" || word == "cancel") {
-                word == "cancel" ? gesture_.cancel() : gesture_.longPress();
+                gesture_.handle(word == "cancel" ? TouchEvent::Cancel : TouchEvent::LongPress, 0, {}, 0);
             } else if (!key(word)) {
                 told += word + " ";
             }
@@ -187,9 +190,9 @@ private:
         {"press", [this](auto button, Point at) { pointer_.press(button, 0, at); }},
         {"move", [this](auto button, Point at) { pointer_.move(button, 0, at); }},
         {"release", [this](auto button, Point at) { pointer_.release(button, 0, at); }},
-        {"touch", [this](auto number, Point at) { gesture_.touch(number, at, 150); }},
-        {"drag", [this](auto number, Point at) { gesture_.move(number, at); }},
-        {"lift", [this](auto number, Point at) { gesture_.lift(number, at); }}};
+        {"touch", [this](auto number, Point at) { gesture_.handle(TouchEvent::Begin, number, at, 150); }},
+        {"drag", [this](auto number, Point at) { gesture_.handle(TouchEvent::Move, number, at, 150); }},
+        {"lift", [this](auto number, Point at) { gesture_.handle(TouchEvent::End, number, at, 150); }}};
 };
 
 TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
@@ -224,7 +227,7 @@ TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
     Desk desk;
     desk.form.box.Cls(); // and with it every stop
     EXPECT_EQ(desk.act("Space Left Home Space"), "move 0 0 1464,964; down 1 0 1464,964; holds 1464,964");
-    desk.capture.letGo(); // as a desktop does when the window has gone
+    desk.capture.releaseAll();
     EXPECT_EQ(desk.act("End"), "up 1 0 1464,964; ring 1464,964");
 }
 
@@ -239,7 +242,7 @@ TEST(KeyboardPointerTest, GoesWhenTheMouseMovesFarOrPressesAndComesBackWhereItWa
         {"Space Left F", ""}, // the mouse holds a button
         {"release 2 1000 1000 Space Space", "up 2 0 1000,1000; move 0 0 200,200; down 1 0 200,200; holds 200,200"},
         {"move 0 900 1000", "holds 200,200"},
-        {"move 0 2900 1000", "move 0 0 2900,1000; "}, // what Space holds goes along
+        {"move 0 2900 1000", "move 1 0 2900,1000; "}, // what Space holds goes along
         {"press 1 2900 1000", "up 1 0 2900,1000; down 1 0 2900,1000; "}};
     for (const auto& [script, told] : steps) {
         EXPECT_EQ(desk.act(script), told) << script;
@@ -249,14 +252,14 @@ TEST(KeyboardPointerTest, GoesWhenTheMouseMovesFarOrPressesAndComesBackWhereItWa
 TEST(KeyboardPointerTest, WhatSpaceHoldsStaysHeldThroughEveryInterruption) {
     using Interruption = std::function<void(Desk&)>;
     const std::string meanwhile = "Space End F move 0 900 100 move 0 100 900 press 1 100 900 release 1 100 900";
-    for (const Interruption& interrupt :
-         {Interruption([](Desk& desk) { desk.desktop.MsgBox("text"); }),
-          Interruption([](Desk&) { Form("another window", 100, 100).Show(Modality::Modal); }),
-          Interruption([&](Desk& desk) {
-              desk.form.MousePointer(Pointer::Hourglass);
-              desk.act(meanwhile);
-              desk.form.MousePointer(Pointer::Default);
-          })}) {
+    for (const Interruption& interrupt : {Interruption([](Desk&) { MsgBox("text"); }), Interruption([](Desk&) {
+                                              Form("another window", 100, 100).Show(Modality::Modal);
+                                          }),
+                                          Interruption([&](Desk& desk) {
+                                              desk.form.MousePointer(Pointer::Hourglass);
+                                              desk.act(meanwhile);
+                                              desk.form.MousePointer(Pointer::Default);
+                                          })}) {
         Desk desk;
         desk.desktop.whileMessageIsOpen = [&] { desk.act(meanwhile); };
         desk.desktop.whileModal = [&](Form&) { desk.act(meanwhile); };
@@ -267,7 +270,20 @@ TEST(KeyboardPointerTest, WhatSpaceHoldsStaysHeldThroughEveryInterruption) {
     }
 }
 
-TEST(FingerTest, WhatATouchMeansShowsLater) {
+TEST(MouseCaptureTest, AMoveWithAHeldButtonUpReleasesItWhereItWasLastUnlessTheFormWasBlocked) {
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"move 1 600 600 move 0 900 900", "move 1 0 600,600; up 1 0 600,600; move 0 0 900,900; "},
+        {"press 2 600 600 move 1 700 700", "down 2 0 600,600; up 2 0 600,600; move 1 0 700,700; "},
+        {"box move 0 900 900 release 1 900 900 move 0 1 1", "move 0 0 900,900; up 1 0 900,900; move 0 0 1,1; "},
+        {"box move 1 700 700 move 0 900 900", "move 1 0 700,700; up 1 0 700,700; move 0 0 900,900; "}};
+    for (const auto& [script, told] : cases) {
+        Desk desk;
+        EXPECT_EQ(desk.act("press 1 500 500"), "down 1 0 500,500; ");
+        EXPECT_EQ(desk.act(script), told) << script;
+    }
+}
+
+TEST(TouchGestureTest, WhatATouchMeansShowsLater) {
     const std::string click = "down 1 0 500,500; up 1 0 500,500; ";
     const std::string rightClick = "down 2 0 500,500; up 2 0 500,500; ";
     const std::string drag = "down 1 0 500,500; move 1 0 590,620; ";

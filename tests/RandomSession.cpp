@@ -148,15 +148,12 @@ private:
     void finger(Point at) {
         const unsigned what = next() % 16;
         const int number = what % 4 == 3 ? 2 : 1;
-        if (what < 6) {
-            table_.finger.touch(number, at, static_cast<float>(what) * 100);
-        } else if (what < 10) {
-            table_.finger.move(number, at);
-        } else if (what < 13) {
-            table_.finger.lift(number, at);
-        } else {
-            what == 13 ? table_.finger.cancel() : table_.finger.longPress();
-        }
+        const TouchEvent event = what < 6    ? TouchEvent::Begin
+                                 : what < 10 ? TouchEvent::Move
+                                 : what < 13 ? TouchEvent::End
+                                 : what < 14 ? TouchEvent::Cancel
+                                             : TouchEvent::LongPress;
+        table_.gesture.handle(event, number, at, static_cast<float>(what) * 100);
     }
 
     void tableEvent() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "game/MainMod.h"
+#include "platform/forms/Mouse.h"
 #include "platform/input/KeyboardPointer.h"
 #include "platform/input/TouchGesture.h"
 #include "platform/memory/MemoryDesktop.h"
@@ -39,9 +40,15 @@ public:
     std::shared_ptr<CardPack> layPile(float X, float Y, const Cards& cards = {},
                                       const std::shared_ptr<PileAccepter>& taker = nullptr) const;
 
-    void press(Point at, std::int16_t button = 1) { pointer.press(button, 0, at); }
-    void move(Point to) { pointer.move(0, 0, to); }
-    void release(Point at) { pointer.release(1, 0, at); }
+    void press(Point at, std::int16_t button = leftButton) {
+        held_ = static_cast<std::int16_t>(held_ | button);
+        pointer.press(button, 0, at);
+    }
+    void move(Point to) { pointer.move(held_, 0, to); }
+    void release(Point at) {
+        held_ = static_cast<std::int16_t>(held_ & ~leftButton);
+        pointer.release(leftButton, 0, at);
+    }
     void drag(Point from, Point to);
 
     /// What was painted on the table since the last call.
@@ -55,13 +62,14 @@ public:
     MainMod program;
     MouseCapture capture{picture()};
     KeyboardPointer pointer{capture};
-    TouchGesture finger{pointer};
+    TouchGesture gesture{pointer};
     /// The rules of a game that is not about to be won: at first, with a standard deck.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });
 
 private:
     std::size_t seen_ = 0;
+    std::int16_t held_ = 0; // the sum of the mouse's buttons
 };
 
 } // namespace tumble

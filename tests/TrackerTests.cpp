@@ -186,9 +186,10 @@ TEST_F(DragTest, ButtonLetGoUnderABoxIsHeldUntilTheNextRelease) {
     table.move({8100, -100});
     EXPECT_EQ(table.messages(), "Invalid Move!: You must play the lowest ranking card, a Two");
     EXPECT_FALSE(table.desktop.ended());
-    table.move({2100, 2100});
+    table.capture.inputUnblocked();
+    table.pointer.move(0, 0, {2100, 2100});
     EXPECT_TRUE(table.tracker().moveInProg());
-    table.capture.letGo();
+    table.capture.releaseAll();
     EXPECT_FALSE(table.tracker().moveInProg());
     EXPECT_EQ(table.cards(), "green 8000,0; FiveHearts 2000,2001");
     table.capture.detach();

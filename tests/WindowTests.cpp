@@ -1,11 +1,13 @@
+#include "platform/web/ControlKeys.h"
+#include "platform/web/TextLayout.h"
 #include "platform/window/Captions.h"
-#include "platform/window/WorkArea.h"
 #include "tests/Table.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <list>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -45,22 +47,6 @@ TEST(LayoutTest, AChoiceMayUseHalfOfTheSpaceAboveAndBelowAndSomeOnItsRight) {
     EXPECT_EQ(allottedPlace(fourth), (Place{100, 2350, 1855, 600}));
 }
 
-TEST(ScreenRoomTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
-    using Case = std::tuple<PixelSize, double, double>;
-    for (const auto& [screen, ratio, scale] :
-         {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
-          Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
-          Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
-        const WorkArea room({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
-        EXPECT_NEAR(room.openingScale(tableSize), scale, 1e-9) << screen.width;
-        EXPECT_NEAR(room.leastScale(tableSize), std::min(scale, 1.0), 1e-9) << screen.width;
-    }
-    const WorkArea room({0, 0, 799, 559}, {800, 600}, 1, {});
-    EXPECT_EQ(room.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
-    EXPECT_EQ(room.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
-    EXPECT_EQ(room.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
-}
-
 /// A made-up font: a letter is as many pixels wide as the font has points, a line twice as high, broken anywhere.
 TextSize measureLetters(const std::string& text, const CaptionFont& font, std::optional<int> width) {
     const double inOneLine = static_cast<double>(text.size()) * font.points * font.stretch / 100;
@@ -70,20 +56,35 @@ TextSize measureLetters(const std::string& text, const CaptionFont& font, std::o
             static_cast<int>(std::ceil(inOneLine / most)) * line, line};
 }
 
+/// Gives a caption a size of its own and notes its font.
+class NotingView : public ControlView {
+public:
+    NotingView(const Control& control, PixelSize size, std::ostream& fonts)
+        : control_(control), size_(size), fonts_(fonts) {}
+    void place(const PixelRect& /*pixels*/) override {}
+    void update(double /*scale*/) override {}
+    PixelSize captionSize(PixelSize /*usual*/) const override { return size_; }
+    void setFont(const CaptionFont& font) override {
+        fonts_ << control_.Name() << " " << font.points << (font.bold ? " bold " : " ") << font.stretch << "%; ";
+    }
+
+private:
+    const Control& control_;
+    PixelSize size_;
+    std::ostream& fonts_;
+};
+
 class CaptionsTest : public testing::Test {
 protected:
-    void add(const auto& control, PixelSize room) {
-        captions.add(
-            control, captionStyle(control), [room] { return room; },
-            [this, &control](const CaptionFont& font) {
-                fonts << control.Name() << " " << font.points << (font.bold ? " bold " : " ") << font.stretch << "%; ";
-            });
+    void add(const auto& control, PixelSize size) {
+        captions.add(control, captionStyle(control), {}, views.emplace_back(control, size, fonts));
     }
 
     MemoryDesktop desktop{application()};
     Form form{"", 6000, 6000};
     Frame frame{form, "frame", "a", {}, 0, {.bold = true}};
     Captions captions{measureLetters};
+    std::list<NotingView> views;
     std::ostringstream fonts;
 };
 
@@ -102,7 +103,7 @@ TEST_F(CaptionsTest, HaveTheFontAskedForOrTheLargestThatFits) {
         add(low, room);
         add(high, room);
         add(option, room);
-        captions.fit(scale);
+        captions.fit(Layout{.scale = scale});
         EXPECT_EQ(fonts.str(), expected);
     }
 }
@@ -115,19 +116,20 @@ TEST_F(CaptionsTest, ThatAreAlikeInOneContainerHaveOneSize) {
     add(first, {75, 34});
     add(other, {75, 34});
     add(second, {75, 34});
-    captions.fit(1);
+    captions.fit(Layout());
     EXPECT_EQ(fonts.str(), "frame 8.25 bold 100%; first 7.75 100%; second 7.75 100%; other 8.25 100%; ");
     fonts.str({});
     second.Caption("short");
-    captions.fit(second, 1);
+    captions.fit(second, Layout());
     EXPECT_EQ(fonts.str(), "first 8.25 100%; second 8.25 100%; ");
 }
 
 TEST(TextSizeTest, AsManyWordsGoIntoALineAsFit) {
     using Case = std::tuple<std::string, std::optional<int>, int, int>;
     for (const auto& [text, width, widest, lines] :
-         {Case{"", 3, 0, 1}, Case{"aa bb cc", {}, 8, 1}, Case{"aa bb cc", 8, 8, 1}, Case{"aa bb cc", 7, 5, 2},
-          Case{"aa bb cc", 4, 2, 3}, Case{"aa bbbbbb c", 4, 6, 3}}) {
+         {Case{"", 3, 0, 1}, Case{"aa bb cc", {}, 8, 1}, Case{"aa\nbb cc", {}, 5, 2}, Case{"aa bb cc", 8, 8, 1},
+          Case{"aa bb cc", 7, 5, 2}, Case{"aa bb\ncc d", 5, 5, 2}, Case{"aa bb cc", 4, 2, 3},
+          Case{"aa bbbbbb c", 4, 6, 3}}) {
         const auto letters = [](const std::string& piece) { return static_cast<double>(piece.size()); };
         const TextSize size = textSize(text, letters, 10, width);
         EXPECT_EQ(std::tuple(size.width, size.height, size.lineSpacing), std::tuple(widest, 10 * lines, 10)) << text;
@@ -156,20 +158,6 @@ TEST(KeysTest, LeadFromChoiceToChoiceAndFromValueToValue) {
     }
     EXPECT_EQ(press(&slider, Key::F), std::nullopt);
     EXPECT_EQ(press(&options.cmdPlay, Key::Down), std::nullopt);
-}
-
-TEST(KeysTest, AHeldKeyActsOnce) {
-    constexpr int space = 32;
-    constexpr int other = 33;
-    HeldKeys held;
-    EXPECT_FALSE(held.repeats(space, 10, false));
-    EXPECT_TRUE(held.repeats(space, 20, true));
-    held.released(space, 30);
-    EXPECT_TRUE(held.repeats(space, 30, false));
-    EXPECT_FALSE(held.repeats(other, 30, false));
-    EXPECT_FALSE(held.repeats(space, 31, false));
-    held.released(space, 0); // while a screen reader listens
-    EXPECT_FALSE(held.repeats(space, 0, false));
 }
 
 TEST(KeysTest, PressTheButtonOfTheFormThatHasThem) {

@@ -18,10 +18,6 @@ void Control::Caption(std::string caption) {
     }
 }
 
-bool Control::takesInput() const {
-    return desktop().takesInput(container_.form());
-}
-
 void Control::changed() {
     desktop().changed(*this);
 }
@@ -94,17 +90,6 @@ void OptionButton::Select() {
     click_();
 }
 
-OptionButton* OptionButton::beside(int step) const {
-    std::vector<OptionButton*> choices;
-    for (const AnyControl& control : container().controls()) {
-        if (auto* const* option = std::get_if<OptionButton*>(&control)) {
-            choices.push_back(*option);
-        }
-    }
-    const auto here = std::find(choices.begin(), choices.end(), this) - choices.begin() + step;
-    return here >= 0 && here < std::ssize(choices) ? choices.at(static_cast<std::size_t>(here)) : nullptr;
-}
-
 Frame::Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
              Font captionFont)
     : Control(container, std::move(name), std::move(caption), place, tabIndex), font(captionFont) {
@@ -147,22 +132,6 @@ void Slider::Slide(int value) {
     if (takesInput()) {
         Value(value);
     }
-}
-
-std::optional<AnyControl> press(const AnyControl& focused, Key key) {
-    if (auto* const* slider = std::get_if<Slider*>(&focused)) {
-        const int by = steps(key, (*slider)->Max() - (*slider)->Min());
-        (*slider)->Slide((*slider)->Value() + by);
-        return by != 0 ? std::optional(focused) : std::nullopt;
-    }
-    auto* const* option = std::get_if<OptionButton*>(&focused);
-    const int by = option != nullptr ? steps(key, 0) : 0;
-    OptionButton* next = by != 0 ? (*option)->beside(by) : nullptr;
-    if (next != nullptr) {
-        next->Select();
-        return next;
-    }
-    return by != 0 ? std::optional(focused) : std::nullopt;
 }
 
 } // namespace tumble

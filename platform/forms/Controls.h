@@ -45,6 +45,8 @@ public:
     virtual ~Container() = default;
 
     virtual Form& form() = 0;
+    /// Whether what the player does reaches the controls.
+    virtual bool takesInput() const = 0;
     /// In twips.
     virtual float Width() const = 0;
     const std::vector<AnyControl>& controls() const { return controls_; }
@@ -69,7 +71,7 @@ public:
     const std::string& Caption() const { return caption_; }
     void Caption(std::string caption);
     /// Whether what the player does reaches the control.
-    bool takesInput() const;
+    bool takesInput() const { return container_.takesInput(); }
 
 protected:
     ~Control() = default;
@@ -121,6 +123,10 @@ public:
     Label(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font = {},
           TextAlign align = TextAlign::Left);
 
+    /// Whether its text is broken into as many lines as fit; the text of a low label stays in one.
+    bool wraps() const { return place().Height >= leastWrappingHeight; }
+    static constexpr float leastWrappingHeight = 600; // twips
+
     const Font font;
     const TextAlign align;
 
@@ -159,8 +165,6 @@ public:
     /// Makes this the selected choice and raises its click; nothing happens when it is already.
     void Select();
     const std::string& Tag() const { return tag_; }
-    /// The choice so many after this one in its container, or before it; null where there is none.
-    OptionButton* beside(int step) const;
 
 private:
     Handler click_;
@@ -174,6 +178,7 @@ public:
     Frame(Container& container, std::string name, std::string caption, const Place& place, int tabIndex, Font font);
 
     Form& form() override { return Control::container().form(); }
+    bool takesInput() const override { return Control::takesInput(); }
     float Width() const override { return place().Width; }
 
     const Font font;
@@ -205,8 +210,5 @@ private:
 inline const Control& asControl(const AnyControl& control) {
     return *std::visit([](const Control* each) { return each; }, control);
 }
-
-/// What a key does to the control that has the focus. The control that has it then; none for a key that means nothing.
-std::optional<AnyControl> press(const AnyControl& focused, Key key);
 
 } // namespace tumble

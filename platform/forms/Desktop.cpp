@@ -13,12 +13,8 @@ Desktop* desktopInUse = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-glo
 
 Desktop::Desktop(Application application) : application_(std::move(application)) {}
 
-bool Desktop::takesInput(const Form& form) const {
-    return (modal_.empty() || modal_.back() == &form) && form.MousePointer() != Pointer::Hourglass;
-}
-
-Desktop::Modal::Modal(Desktop& desktop, const Form* form) : desktop_(desktop) {
-    desktop_.modal_.push_back(form);
+Desktop::Modal::Modal(Desktop& desktop, const Form& form) : desktop_(desktop) {
+    desktop_.modal_.push_back(&form);
 }
 
 Desktop::Modal::~Modal() {

@@ -1,17 +1,28 @@
 #pragma once
 
 #include "platform/base/NonMovable.h"
-#include "platform/forms/Form.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tumble {
 
+class Control;
+class Form;
+class PictureBox;
 class Random;
+struct DisplayItem;
+struct Font;
+struct Picture;
 
-/// What the program says of itself.
+enum class Modality { Modeless, Modal };
+
+/// The mouse pointer's shape over a form.
+enum class Pointer { Default = 0, Hourglass = 11 };
+
+/// The program's name, version and icon.
 struct Application {
     std::string Title;
     std::int16_t Major;
@@ -19,6 +30,12 @@ struct Application {
     std::int16_t Revision;
     const Picture& Icon;
     // Client size in twips of its largest form; all forms open at the scale that suits this one.
+    float Width;
+    float Height;
+};
+
+/// The size of a text, in twips.
+struct TextExtent {
     float Width;
     float Height;
 };
@@ -31,34 +48,32 @@ public:
 
     const Application& App() const { return application_; }
 
-    /// Whether what the player does reaches the form: no message box is open, no other form is modal, and the hourglass
-    /// does not show over it.
-    bool takesInput(const Form& form) const;
+    /// Whether another form is modal.
+    bool blocks(const Form& form) const { return !modal_.empty() && modal_.back() != &form; }
 
     virtual void Show(Form& form, Modality modality) = 0;
     virtual void Hide(Form& form) = 0;
     virtual void Unload(Form& form) = 0;
     virtual void Refresh(Form& form) = 0;
     virtual void MousePointer(Form& form, Pointer pointer) = 0;
-    /// Shows a message box with an OK button and returns when the player has closed it; no form takes input meanwhile.
-    virtual void MsgBox(const std::string& text, const std::string& caption) = 0;
-    /// A message box under the application's title.
-    void MsgBox(const std::string& text) { MsgBox(text, application_.Title); }
-    /// Ends the application: no further event is handled once the running one has returned.
+    /// Ends the application: no further event is handled once the running handler has returned.
     virtual void End() = 0;
 
-    /// A control's caption or value is another.
+    /// A control's caption or value has changed.
     virtual void changed(Control& control) = 0;
-    /// An item was laid over a picture box's painting.
+    /// An item was added to a picture box's display list.
     virtual void painted(PictureBox& box, const DisplayItem& item) = 0;
+
+    /// How large a label shows a text, which is broken at line feeds and, if there is a width in twips, at it.
+    virtual TextExtent measure(const std::string& text, const Font& font, std::optional<float> width) = 0;
 
     virtual Random& random() = 0;
 
 protected:
-    /// While it lives, only the modal form takes input; of a message box, which is none of the forms, no form does.
+    /// While it exists, only the modal form takes input.
     class Modal : private NonMovable {
     public:
-        explicit Modal(Desktop& desktop, const Form* form = nullptr);
+        Modal(Desktop& desktop, const Form& form);
         ~Modal();
 
     private:
@@ -67,7 +82,7 @@ protected:
 
 private:
     Application application_;
-    std::vector<const Form*> modal_; // the last one opened is in front; null for a message box
+    std::vector<const Form*> modal_; // the last one opened is in front
 };
 
 /// The desktop in use.

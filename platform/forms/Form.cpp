@@ -1,7 +1,5 @@
 #include "platform/forms/Form.h"
 
-#include "platform/forms/Desktop.h"
-
 #include <utility>
 #include <variant>
 
@@ -37,8 +35,8 @@ bool pressButtonThat(const Condition& condition, const Container& container) {
 
 } // namespace
 
-Form::Form(std::string caption, float width, float height)
-    : caption_(std::move(caption)), width_(width), height_(height) {}
+Form::Form(std::string caption, float width, float height, FormKind formKind)
+    : kind(formKind), caption_(std::move(caption)), width_(width), height_(height) {}
 
 Form::~Form() {
     Unload();

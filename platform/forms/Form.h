@@ -1,25 +1,26 @@
 #pragma once
 
 #include "platform/forms/Controls.h"
+#include "platform/forms/Desktop.h"
 
 #include <string>
 
 namespace tumble {
 
-enum class Modality { Modeless, Modal };
-
-/// The pointer's shape over a form.
-enum class Pointer { Default = 0, Hourglass = 11 };
+/// An alert is a small dialog whose text screen readers speak as soon as it opens.
+enum class FormKind { Window, Alert };
 
 /// A window: its caption, its client area and its controls, which are members of the class that derives from it.
 /// Unloading a form takes it off the screen; showing it again loads it afresh.
 class Form : public Container {
 public:
     /// Client size in twips.
-    Form(std::string caption, float width, float height);
+    Form(std::string caption, float width, float height, FormKind formKind = FormKind::Window);
     ~Form() override;
 
     Form& form() override { return *this; }
+    /// No other form is modal, and the hourglass does not show over this one.
+    bool takesInput() const override { return !desktop().blocks(*this) && pointer_ != Pointer::Hourglass; }
     const std::string& Caption() const { return caption_; }
     /// Shows the next time the form is loaded.
     void Caption(std::string caption) { caption_ = std::move(caption); }
@@ -47,6 +48,8 @@ public:
     virtual void Form_Load() {}
     /// Runs when the player closes the window by its frame.
     virtual void Form_Close() { Unload(); }
+
+    const FormKind kind;
 
 private:
     std::string caption_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 
 namespace tumble {
 
@@ -29,21 +28,5 @@ struct KeyPress {
 constexpr bool actsOnce(Key key) {
     return key >= Key::Space;
 }
-
-/// How far a key leads in a row of so many values or choices: back if negative; 0 for those that lead nowhere.
-int steps(Key key, int count);
-
-/// Tells a press from what the keyboard repeats while a key is held, for all windows of a desktop: another may have
-/// come up meanwhile. A repetition is a release and a press at the same instant, which not every toolkit sees.
-class HeldKeys {
-public:
-    // Keys by the toolkit's numbers. Times in milliseconds; 0 is none, as of keys that a screen reader passes on.
-    void released(int key, std::uint64_t time) { released_[key] = time; }
-    /// `marked`: the toolkit takes the press for a repetition.
-    bool repeats(int key, std::uint64_t time, bool marked) const;
-
-private:
-    std::map<int, std::uint64_t> released_; // last
-};
 
 } // namespace tumble

@@ -1,38 +1,23 @@
 #include "platform/input/KeyboardPointer.h"
 
+#include "platform/forms/Mouse.h"
+
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace tumble {
 
 namespace {
 
-constexpr std::int16_t leftButton = 1;
-constexpr std::int16_t rightButton = 2;
 constexpr float fewPixels = 4 * twipsPerPixel;
 
-/// One step along an axis for an arrow; for a key of a corner, one step along both; of the others, none.
+/// One step along an axis for an arrow, one along both for the key of a corner, none for others.
 Point direction(Key key) {
-    switch (key) {
-    case Key::Left:
-        return {-1, 0};
-    case Key::Up:
-        return {0, -1};
-    case Key::Right:
-        return {1, 0};
-    case Key::Down:
-        return {0, 1};
-    case Key::Home:
-        return {-1, -1};
-    case Key::PageUp:
-        return {1, -1};
-    case Key::End:
-        return {-1, 1};
-    case Key::PageDown:
-        return {1, 1};
-    default:
-        return {};
-    }
+    constexpr std::array<Point, 8> directions{{{-1, 0}, {0, -1}, {1, 0}, {0, 1}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}}};
+    static_assert(Key::Left == Key{0} && Key::Down == Key{3} && Key::Home == Key{4} && Key::PageDown == Key{7});
+    return key <= Key::PageDown ? directions.at(static_cast<std::size_t>(key)) : Point();
 }
 
 bool isArrow(Key key) {
@@ -40,7 +25,7 @@ bool isArrow(Key key) {
     return (x == 0) != (y == 0);
 }
 
-bool isPointers(const KeyPress& press) {
+bool isPointerKey(const KeyPress& press) {
     return press.key <= Key::F10 && !press.with(altKey | metaKey) &&
            (!press.with(controlKey) || (press.with(shiftKey) && isArrow(press.key))) &&
            (press.key != Key::F10 || press.with(shiftKey));
@@ -49,7 +34,7 @@ bool isPointers(const KeyPress& press) {
 } // namespace
 
 bool KeyboardPointer::key(const KeyPress& press) {
-    if (!isPointers(press)) {
+    if (!isPointerKey(press)) {
         return false;
     }
     const bool moves = direction(press.key) != Point();
@@ -62,13 +47,13 @@ bool KeyboardPointer::key(const KeyPress& press) {
         show();
         moveTo(*at_, Shift);
     } else if (moves) {
-        if (const Point to = goal(press); to != *at_) {
+        if (const Point to = destination(press); to != *at_) {
             moveTo(to, Shift);
         }
     } else if (press.key != Key::Space) {
         click(Shift);
     } else if (holds()) {
-        letGo(Shift);
+        release(Shift);
     } else {
         bySpace_ = true;
         capture_.press(leftButton, Shift, *at_);
@@ -82,7 +67,7 @@ void KeyboardPointer::press(std::int16_t Button, std::int16_t Shift, Point at) {
     }
     shows_ = false;
     if (holds()) {
-        capture_.letGo(); // where the mouse may have carried it since
+        capture_.releaseAll(); // where the mouse may have carried it since
     }
     bySpace_ = false;
     capture_.press(Button, Shift, at);
@@ -94,7 +79,7 @@ void KeyboardPointer::move(std::int16_t Button, std::int16_t Shift, Point at) {
         shows_ = std::hypot(at.x - mouse_->x, at.y - mouse_->y) <= fewPixels;
     }
     if (!shows_) {
-        capture_.move(Button, Shift, at);
+        capture_.move(holds() ? static_cast<std::int16_t>(Button | leftButton) : Button, Shift, at);
     }
 }
 
@@ -102,24 +87,24 @@ std::optional<KeyboardCursor> KeyboardPointer::cursor() const {
     return shows_ ? std::optional(KeyboardCursor{*at_, holds()}) : std::nullopt;
 }
 
-Rect KeyboardPointer::part() const {
+Rect KeyboardPointer::bounds() const {
     return capture_.box()->dragBounds.intersected(capture_.box()->displayList().bounds());
 }
 
-std::vector<Point> KeyboardPointer::stopsNow() const {
-    return stops(capture_.box()->displayList(), part(), cursor());
+std::vector<Point> KeyboardPointer::currentStops() const {
+    return stops(capture_.box()->displayList(), bounds(), cursor());
 }
 
-Point KeyboardPointer::goal(const KeyPress& press) const {
+Point KeyboardPointer::destination(const KeyPress& press) const {
     const auto [x, y] = direction(press.key);
-    const Rect in = part();
+    const Rect in = bounds();
     if (!isArrow(press.key)) {
-        std::vector<Point> places = stopsNow();
+        std::vector<Point> places = currentStops();
         places.push_back(*at_); // whose item is no stop
         return *stopNearest(places, {x < 0 ? in.left : in.right, y < 0 ? in.top : in.bottom});
     }
     if (!press.with(shiftKey)) {
-        return stopTowards(stopsNow(), *at_, {x, y}).value_or(*at_);
+        return stopTowards(currentStops(), *at_, {x, y}).value_or(*at_);
     }
     const float step = (press.with(controlKey) ? 1 : 10) * twipsPerPixel;
     return {std::max(in.left, std::min(at_->x + step * x, in.right)),
@@ -127,9 +112,9 @@ Point KeyboardPointer::goal(const KeyPress& press) const {
 }
 
 void KeyboardPointer::show() {
-    const Rect in = part();
+    const Rect in = bounds();
     const Point last = at_.value_or(Point{std::floor((in.left + in.right) / 2), std::floor((in.top + in.bottom) / 2)});
-    at_ = stopNearest(stopsNow(), last).value_or(last);
+    at_ = stopNearest(currentStops(), last).value_or(last);
     shows_ = true;
     mouse_.reset();
 }
@@ -144,12 +129,12 @@ void KeyboardPointer::click(std::int16_t Shift) {
     capture_.press(rightButton, Shift, *at_);
     capture_.release(rightButton, Shift, *at_);
     if (holds()) {
-        letGo(Shift);
+        release(Shift);
     }
 }
 
 // Then a move, so that the box says what lies there now.
-void KeyboardPointer::letGo(std::int16_t Shift) {
+void KeyboardPointer::release(std::int16_t Shift) {
     capture_.release(leftButton, Shift, *at_);
     capture_.move(0, Shift, *at_);
 }

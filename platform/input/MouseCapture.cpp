@@ -1,5 +1,7 @@
 #include "platform/input/MouseCapture.h"
 
+#include "platform/forms/Mouse.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,8 +9,8 @@ namespace tumble {
 
 namespace {
 
-/// Where the straight way from a place inside to one outside comes to the edge, in whole twips; the way is cut at the
-/// edges that it crosses, one after the other.
+/// Where the straight way from a place inside to one outside crosses the edge, in whole twips: the way is clipped at
+/// one edge after the other.
 Point lastInside(const Rect& bounds, Point from, Point to) {
     const auto between = [](float a, float b, double share) {
         return a + static_cast<float>(std::nearbyint(share * (static_cast<double>(b) - a)));
@@ -32,7 +34,8 @@ float towards(float from, float to) {
 void MouseCapture::press(std::int16_t Button, std::int16_t Shift, Point at) {
     if (takesInput()) {
         held_ |= Button;
-        tell(&PictureBox::MouseDown, Button, Shift, at);
+        mayBeUp_ &= ~Button;
+        send(&PictureBox::MouseDown, Button, Shift, at);
     }
 }
 
@@ -40,32 +43,38 @@ void MouseCapture::move(std::int16_t Button, std::int16_t Shift, Point at) {
     if (!takesInput()) {
         return;
     }
+    mayBeUp_ &= ~Button;
+    releaseButtons(held_ & ~Button & ~mayBeUp_);
+    if (!takesInput()) {
+        return;
+    }
     const Rect bounds = box_->dragBounds;
     if (!holds() || bounds.contains(at)) {
-        tell(&PictureBox::MouseMove, Button, Shift, at);
+        send(&PictureBox::MouseMove, Button, Shift, at);
     } else if (bounds.contains(last_)) {
         const Point inside = lastInside(bounds, last_, at);
-        tell(&PictureBox::MouseMove, Button, Shift, inside);
-        tell(&PictureBox::MouseMove, Button, Shift, {towards(inside.x, at.x), towards(inside.y, at.y)});
+        send(&PictureBox::MouseMove, Button, Shift, inside);
+        send(&PictureBox::MouseMove, Button, Shift, {towards(inside.x, at.x), towards(inside.y, at.y)});
     }
 }
 
 void MouseCapture::release(std::int16_t Button, std::int16_t Shift, Point at) {
     if (takesInput()) {
         held_ &= ~Button;
-        tell(&PictureBox::MouseUp, Button, Shift, at);
+        mayBeUp_ &= held_;
+        send(&PictureBox::MouseUp, Button, Shift, at);
     }
 }
 
-void MouseCapture::letGo() {
-    for (const int button : {1, 2, 4}) {
-        if ((held_ & button) != 0) {
-            release(static_cast<std::int16_t>(button), 0, last_);
+void MouseCapture::releaseButtons(int buttons) {
+    for (const std::int16_t button : mouseButtons) {
+        if ((buttons & button) != 0) {
+            release(button, 0, last_);
         }
     }
 }
 
-void MouseCapture::tell(PictureBox::MouseEvent PictureBox::*event, std::int16_t Button, std::int16_t Shift, Point at) {
+void MouseCapture::send(PictureBox::MouseEvent PictureBox::*event, std::int16_t Button, std::int16_t Shift, Point at) {
     last_ = at;
     if (takesInput() && box_->*event) {
         (box_->*event)(Button, Shift, at.x, at.y);

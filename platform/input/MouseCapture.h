@@ -6,37 +6,45 @@
 
 namespace tumble {
 
-/// The hand at a picture box: what the box is told of the mouse, whatever the desktop. A button that goes down on the
-/// box is held until it goes up again on it, wherever the pointer is meanwhile. While one is held and the pointer
-/// leaves the box's reach, the box is told of the last place inside on the straight way and of the next one beyond, and
-/// then of no move until the pointer is back: what the hand drags stays under it. Nothing is told while the form takes
-/// no input.
+/// Mouse capture of a picture box: decides which mouse events the box receives, whatever the desktop.
+///
+/// - A button that is pressed on the box is held until it is released, wherever the mouse is meanwhile.
+/// - While a button is held and the mouse leaves the box's drag bounds, the box receives the last place inside on the
+///   straight way and the next one beyond, and then no move until the mouse is back: what is dragged stays under the
+///   mouse.
+/// - A move with a held button up means that its release was lost: the box receives the release at the last place. A
+///   button that was held while the form was blocked is the exception: it stays held until the next release.
+/// - While the form takes no input, the box receives nothing.
 class MouseCapture {
 public:
-    /// The box outlives the hand, or `detach` is called.
+    /// The box outlives the capture, or `detach` is called.
     explicit MouseCapture(PictureBox& box) : box_(&box) {}
 
     // Buttons, shift keys and places as the box's handlers get them.
     void press(std::int16_t Button, std::int16_t Shift, Point at);
     void move(std::int16_t Button, std::int16_t Shift, Point at);
     void release(std::int16_t Button, std::int16_t Shift, Point at);
+    /// Releases what is held at the last place that the box received.
+    void releaseAll() { releaseButtons(held_); }
+    /// The form was blocked until now.
+    void inputUnblocked() { mayBeUp_ = held_; }
 
-    /// Null once the hand is retired.
+    /// Null once detached.
     const PictureBox* box() const { return box_; }
-    /// Whether the box is told of anything.
+    /// Whether the box receives anything.
     bool takesInput() const { return box_ != nullptr && box_->takesInput(); }
-    /// Whether the box takes a button for held.
+    /// Whether a button is held.
     bool holds() const { return held_ != 0; }
-    /// Releases what is held at the last place that the box was told of.
-    void letGo();
-    /// From now on nothing is told; the box may be gone. May be called by a handler.
+    /// The box receives nothing from now on and may be destroyed. May be called by a handler.
     void detach() { box_ = nullptr; }
 
 private:
-    void tell(PictureBox::MouseEvent PictureBox::*event, std::int16_t Button, std::int16_t Shift, Point at);
+    void releaseButtons(int buttons);
+    void send(PictureBox::MouseEvent PictureBox::*event, std::int16_t Button, std::int16_t Shift, Point at);
 
     PictureBox* box_;
-    int held_ = 0; // the sum of the buttons
+    int held_ = 0;    // the sum of the buttons
+    int mayBeUp_ = 0; // of these, those whose release the form's block may have hidden
     Point last_;
 };
 

@@ -1,67 +1,52 @@
 #include "platform/input/TouchGesture.h"
 
+#include "platform/forms/Mouse.h"
+
 #include <cmath>
 #include <utility>
 
 namespace tumble {
 
-namespace {
-
-constexpr std::int16_t leftButton = 1;
-constexpr std::int16_t rightButton = 2;
-
-} // namespace
-
-void TouchGesture::touch(int number, Point at, float startDragDistance) {
-    if (!number_) {
-        number_ = number;
+void TouchGesture::handle(TouchEvent event, int finger, Point at, float startDragDistance) {
+    if (event == TouchEvent::Begin && !finger_) {
+        finger_ = finger;
         state_ = State::Waits;
         at_ = at;
-        startDragDistance_ = startDragDistance;
+    } else if (event == TouchEvent::LongPress && waits()) {
+        state_ = State::Done;
+        click(rightButton);
+    } else if (event == TouchEvent::Move && finger_ == finger) {
+        move(at, startDragDistance);
+    } else if (event == TouchEvent::End && finger_ == finger) {
+        end(state_ == State::Waits, at);
+    } else if (event == TouchEvent::Cancel) {
+        end(false, at_);
     }
 }
 
-void TouchGesture::move(int number, Point at) {
-    if (number != number_) {
-        return;
-    }
-    if (state_ == State::Waits && std::hypot(at.x - at_.x, at.y - at_.y) >= startDragDistance_) {
+void TouchGesture::move(Point at, float startDragDistance) {
+    if (waits() && std::hypot(at.x - at_.x, at.y - at_.y) >= startDragDistance) {
         state_ = State::Drags;
-        mouse_.press(leftButton, 0, at_);
+        pointer_.press(leftButton, 0, at_);
     }
     if (state_ == State::Drags) {
         at_ = at;
-        mouse_.move(leftButton, 0, at);
+        pointer_.move(leftButton, 0, at);
     }
 }
 
-void TouchGesture::lift(int number, Point at) {
-    if (number != number_) {
-        return;
-    }
-    number_.reset();
-    const State was = std::exchange(state_, State::Done);
-    if (was == State::Waits) {
-        mouse_.press(leftButton, 0, at_);
-        mouse_.release(leftButton, 0, at_);
-    } else if (was == State::Drags) {
-        mouse_.release(leftButton, 0, at);
-    }
-}
-
-void TouchGesture::cancel() {
-    number_.reset();
+void TouchGesture::end(bool isClick, Point at) {
+    finger_.reset();
     if (std::exchange(state_, State::Done) == State::Drags) {
-        mouse_.release(leftButton, 0, at_);
+        pointer_.release(leftButton, 0, at);
+    } else if (isClick) {
+        click(leftButton);
     }
 }
 
-void TouchGesture::longPress() {
-    if (waits()) {
-        state_ = State::Done;
-        mouse_.press(rightButton, 0, at_);
-        mouse_.release(rightButton, 0, at_);
-    }
+void TouchGesture::click(std::int16_t button) {
+    pointer_.press(button, 0, at_);
+    pointer_.release(button, 0, at_);
 }
 
 } // namespace tumble

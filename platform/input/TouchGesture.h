@@ -6,38 +6,39 @@
 
 namespace tumble {
 
-enum class TouchEvent { Touch, Move, Lift, LongPress };
+/// A finger touches, moves or lifts; it has touched for the long-press time; or the toolkit takes the touch away.
+enum class TouchEvent { Begin, Move, End, LongPress, Cancel };
 
-/// A finger at a picture box, of which the box is told as of the mouse. What a touch means shows later: a move by the
-/// start-drag distance makes it a press at the first place, the moves that follow and a release; a lift before that, a
-/// press and a release; the end of the long-press time before both, a press and a release of the right button, and
-/// whatever the finger does then is nothing. While one finger touches, others do nothing. (A pen acts as the mouse, its
-/// barrel button as the right one.)
+/// Synthesizes the mouse from a finger at a picture box, once it shows what the touch means:
+///
+/// - moved by the start-drag distance: a drag with the left button, from the first place to where the finger lifts;
+/// - lifted before that: a click;
+/// - touched for the long-press time before either: a click of the right button, and nothing until the finger lifts;
+/// - taken away: nothing, or the end of the drag.
+///
+/// While one finger touches, others do nothing.
 class TouchGesture {
 public:
-    /// Acts by way of the pointer, as the mouse does; it outlives the finger.
-    explicit TouchGesture(KeyboardPointer& mouse) : mouse_(mouse) {}
+    /// Acts on the pointer, which outlives the gesture.
+    explicit TouchGesture(KeyboardPointer& pointer) : pointer_(pointer) {}
 
-    // Fingers by their numbers, from touch to lift; places and the distance in twips.
-    void touch(int number, Point at, float startDragDistance);
-    void move(int number, Point at);
-    void lift(int number, Point at);
-    /// The toolkit has taken the touch away: nothing was meant, and a drag ends where it is.
-    void cancel();
-    /// A finger has touched for the long-press time.
-    void longPress();
+    /// Fingers have numbers, of which a long press and a cancel need none; place and start-drag distance are in twips.
+    void handle(TouchEvent event, int finger, Point at, float startDragDistance);
 
     /// Whether the end of the long-press time would still mean something.
     bool waits() const { return state_ == State::Waits; }
 
 private:
-    enum class State { Waits, Drags, Done };
+    enum class State { Done, Waits, Drags };
 
-    std::optional<int> number_; // of the finger that touches
+    void move(Point at, float startDragDistance);
+    void end(bool isClick, Point at);
+    void click(std::int16_t button);
+
+    std::optional<int> finger_; // that touches
     State state_ = State::Done;
     Point at_; // where it touched; in a drag, where it was last
-    float startDragDistance_ = 0;
-    KeyboardPointer& mouse_;
+    KeyboardPointer& pointer_;
 };
 
 } // namespace tumble

@@ -1,6 +1,7 @@
 #include "platform/memory/MemoryDesktop.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tumble {
@@ -18,10 +19,18 @@ MemoryDesktop::~MemoryDesktop() {
 }
 
 void MemoryDesktop::Show(Form& form, Modality modality) {
+    if (const auto* box = dynamic_cast<const MessageBox*>(&form)) {
+        messages_.push_back({box->lblText.Caption(), box->Caption()});
+        if (whileMessageIsOpen) {
+            const Modal modal(*this, form);
+            whileMessageIsOpen();
+        }
+        return;
+    }
     note("show ", form);
     shown_.push_back(&form);
     if (modality == Modality::Modal && whileModal) {
-        const Modal modal(*this, &form);
+        const Modal modal(*this, form);
         whileModal(form);
     }
 }
@@ -32,8 +41,10 @@ void MemoryDesktop::Hide(Form& form) {
 }
 
 void MemoryDesktop::Unload(Form& form) {
-    note("unload ", form);
-    std::erase(shown_, &form);
+    if (form.kind == FormKind::Window) {
+        note("unload ", form);
+        std::erase(shown_, &form);
+    }
 }
 
 void MemoryDesktop::Refresh(Form& form) {
@@ -44,18 +55,16 @@ void MemoryDesktop::MousePointer(Form& /*form*/, Pointer pointer) {
     journal_.push_back("pointer " + std::to_string(static_cast<int>(pointer)));
 }
 
-void MemoryDesktop::MsgBox(const std::string& text, const std::string& caption) {
-    messages_.push_back({text, caption});
-    if (whileMessageIsOpen) {
-        const Modal modal(*this);
-        whileMessageIsOpen();
-    }
-}
-
 void MemoryDesktop::painted(PictureBox& box, const DisplayItem& item) {
     if (keepsLog_) {
         logs_[&box].push_back(item);
     }
+}
+
+TextExtent MemoryDesktop::measure(const std::string& text, const Font& /*font*/, std::optional<float> width) {
+    const float inOneLine = static_cast<float>(text.size()) * 7 * twipsPerPixel;
+    const float most = width.value_or(inOneLine);
+    return {.Width = std::min(inOneLine, most), .Height = std::ceil(inOneLine / most) * 15 * twipsPerPixel};
 }
 
 std::vector<MemoryDesktop::Message> MemoryDesktop::takeMessages() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/base/Random.h"
-#include "platform/forms/Desktop.h"
+#include "platform/forms/MessageBox.h"
 
 #include <cstddef>
 #include <functional>
@@ -46,11 +46,11 @@ public:
     void Unload(Form& form) override;
     void Refresh(Form& form) override;
     void MousePointer(Form& form, Pointer pointer) override;
-    using Desktop::MsgBox;
-    void MsgBox(const std::string& text, const std::string& caption) override;
     void End() override { ended_ = true; }
     void changed(Control& /*control*/) override {}
     void painted(PictureBox& box, const DisplayItem& item) override;
+    /// In a made-up font: a character is 7 pixels wide, a line 15 high.
+    TextExtent measure(const std::string& text, const Font& font, std::optional<float> width) override;
     ScriptedRandom& random() override { return random_; }
 
     /// The message boxes since the last call, in their order.

@@ -1,8 +1,8 @@
 #include "platform/qt/Accessibility.h"
 
 #include "platform/base/NonMovable.h"
-#include "platform/qt/FormWindow.h"
 #include "platform/qt/SurfaceWidget.h"
+#include "platform/window/FormView.h"
 
 #include <QAccessibleWidget>
 #include <QGroupBox>
@@ -88,9 +88,12 @@ void announceWidgets() {
         if (auto* surface = dynamic_cast<SurfaceWidget*>(object)) {
             return new AccessibleSurface(*surface);
         }
-        if (auto* window = dynamic_cast<FormWindow*>(object)) {
-            const auto role = window->windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window;
-            return new QAccessibleWidget(window, role);
+        if (const auto* view = dynamic_cast<FormView*>(object)) {
+            auto* window = static_cast<QWidget*>(object);
+            const bool isAlert = view->form() != nullptr && view->form()->kind == FormKind::Alert;
+            return new QAccessibleWidget(window, isAlert                              ? QAccessible::AlertMessage
+                                                 : window->windowType() == Qt::Dialog ? QAccessible::Dialog
+                                                                                      : QAccessible::Window);
         }
         return nullptr;
     });

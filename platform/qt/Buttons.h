@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -25,24 +24,6 @@ private:
     QRect markPlace() const;
 };
 
-/// A group box whose caption breaks its upper line, so that the whole box below is its controls'.
-class CaptionedFrame : public QGroupBox {
-public:
-    using QGroupBox::QGroupBox;
-
-    /// In logical pixels; the upper line runs through the caption's middle.
-    void captionHeight(int height) { captionHeight_ = height; }
-
-    /// Where the caption goes, in the frame's own logical pixels.
-    QRect captionArea() const;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    int captionHeight_ = 0;
-};
-
 /// A button that has a frame around it when it is the default one, in every style.
 class FormButton : public QPushButton {
 public:
@@ -56,7 +37,7 @@ protected:
 /// A button that shows its icon above its caption.
 class IconAboveButton : public FormButton {
 public:
-    using FormButton::FormButton;
+    IconAboveButton(const QIcon& icon, QWidget& parent) : FormButton(icon, {}, &parent) {}
 
 protected:
     void drawFace(QStylePainter& painter, const QStyleOptionButton& option) const override;

@@ -5,43 +5,22 @@
 namespace tumble {
 
 std::optional<Key> keyOf(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return Key::Left;
-    case Qt::Key_Up:
-        return Key::Up;
-    case Qt::Key_Right:
-        return Key::Right;
-    case Qt::Key_Down:
-        return Key::Down;
-    case Qt::Key_Home:
-        return Key::Home;
-    case Qt::Key_PageUp:
-        return Key::PageUp;
-    case Qt::Key_End:
-        return Key::End;
-    case Qt::Key_PageDown:
-        return Key::PageDown;
-    case Qt::Key_Space:
-        return Key::Space;
-    case Qt::Key_F:
-        return Key::F;
-    case Qt::Key_Menu:
-        return Key::Menu;
-    case Qt::Key_F10:
-        return Key::F10;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return Key::Enter;
-    case Qt::Key_Escape:
-        return Key::Esc;
-    case Qt::Key_F1:
-        return Key::F1;
-    case Qt::Key_F11:
-        return Key::F11;
-    default:
-        return std::nullopt;
-    }
+    static const std::map<int, Key> keys{{Qt::Key_Left, Key::Left},    {Qt::Key_Up, Key::Up},
+                                         {Qt::Key_Right, Key::Right},  {Qt::Key_Down, Key::Down},
+                                         {Qt::Key_Home, Key::Home},    {Qt::Key_PageUp, Key::PageUp},
+                                         {Qt::Key_End, Key::End},      {Qt::Key_PageDown, Key::PageDown},
+                                         {Qt::Key_Space, Key::Space},  {Qt::Key_F, Key::F},
+                                         {Qt::Key_Menu, Key::Menu},    {Qt::Key_F10, Key::F10},
+                                         {Qt::Key_Return, Key::Enter}, {Qt::Key_Enter, Key::Enter},
+                                         {Qt::Key_Escape, Key::Esc},   {Qt::Key_F1, Key::F1},
+                                         {Qt::Key_F11, Key::F11}};
+    const auto found = keys.find(event.key());
+    return found != keys.end() ? std::optional(found->second) : std::nullopt;
+}
+
+bool HeldKeys::repeats(int key, std::uint64_t time, bool marked) const {
+    const auto released = released_.find(key);
+    return marked || (time != 0 && released != released_.end() && released->second == time);
 }
 
 bool KeyFilter::eventFilter(QObject* object, QEvent* event) {

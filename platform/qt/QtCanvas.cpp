@@ -1,6 +1,7 @@
 #include "platform/qt/QtCanvas.h"
 
 #include "platform/paint/Picture.h"
+#include "platform/qt/Geometry.h"
 
 #include <QGuiApplication>
 #include <QPainterPath>
@@ -50,11 +51,6 @@ QColor toQColor(Colour colour) {
     }
     const auto [red, green, blue] = channels(colour);
     return {red, green, blue};
-}
-
-// A rectangle without pixels would reach to the left and up from its place.
-QRect toQRect(const PixelRect& pixels) {
-    return pixels.empty() ? QRect() : QRect(QPoint(pixels.left, pixels.top), QPoint(pixels.right, pixels.bottom));
 }
 
 QtCanvas::QtCanvas(PixelSize size, std::optional<Colour> ground)

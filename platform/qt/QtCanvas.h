@@ -5,15 +5,12 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
-#include <QRect>
 
 namespace tumble {
 
 struct Picture;
 
 QColor toQColor(Colour colour);
-/// Null when there are no pixels in it.
-QRect toQRect(const PixelRect& pixels);
 
 /// A canvas in memory, painted on by the toolkit's painter. Draws none but its like.
 class QtCanvas : public Canvas {

@@ -8,7 +8,6 @@
 #include <QIcon>
 
 #include <memory>
-#include <string>
 
 namespace tumble {
 
@@ -29,7 +28,6 @@ public:
 protected:
     std::shared_ptr<FormView> open(Form& form, Modality modality) override;
     void waitFor(FormView& window) override;
-    void showBox(const std::string& text, const std::string& caption) override;
 
 private:
     // As the base has them.

@@ -1,6 +1,8 @@
 #include "platform/qt/SurfaceWidget.h"
 
+#include "platform/forms/Mouse.h"
 #include "platform/qt/Contrast.h"
+#include "platform/qt/Geometry.h"
 #include "platform/qt/KeyFilter.h"
 
 #include <QFocusFrame>
@@ -14,7 +16,9 @@
 #include <QTouchEvent>
 #include <QWindow>
 
+#include <array>
 #include <cmath>
+#include <map>
 #include <utility>
 
 namespace tumble {
@@ -37,23 +41,13 @@ protected:
 
 constexpr int focusFrameWidth = 3; // logical pixels, with a pixel of space inside
 
-std::int16_t buttonCode(Qt::MouseButton button) {
-    switch (button) {
-    case Qt::LeftButton:
-        return 1;
-    case Qt::RightButton:
-        return 2;
-    case Qt::MiddleButton:
-        return 4;
-    default:
-        return 0;
-    }
-}
+constexpr std::array buttons{std::pair(Qt::LeftButton, leftButton), std::pair(Qt::RightButton, rightButton),
+                             std::pair(Qt::MiddleButton, middleButton)};
 
-std::int16_t heldButtons(Qt::MouseButtons held) {
+std::int16_t sumOf(Qt::MouseButtons held) {
     int sum = 0;
-    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
-        sum += held.testFlag(button) ? buttonCode(button) : 0;
+    for (const auto& [qtButton, button] : buttons) {
+        sum += held.testFlag(qtButton) ? button : 0;
     }
     return static_cast<std::int16_t>(sum);
 }
@@ -178,28 +172,29 @@ Point SurfaceWidget::twips(QPointF inWidget) const {
 
 // At the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
 void SurfaceWidget::mouse(const QMouseEvent& event) {
-    SurfaceView::mouse(buttonCode(event.button()), heldButtons(event.buttons()), shiftKeys(event.modifiers()),
+    SurfaceView::mouse(sumOf(event.button()), sumOf(event.buttons()), shiftKeys(event.modifiers()),
                        twips(event.scenePosition() - mapTo(window(), QPoint())));
+    if (capture_.holds()) {
+        window()->windowHandle()->installEventFilter(this);
+    }
     showCursor();
 }
 
-// A touch that is taken comes as no mouse event.
+// A touch that is accepted arrives as no mouse event.
 bool SurfaceWidget::event(QEvent* event) {
     switch (event->type()) {
-    case QEvent::TouchBegin:
-        gesture_.cancel(); // of whose lift the toolkit may not have told
-        [[fallthrough]];
+    case QEvent::TouchBegin: // the toolkit may not have told of the last lift
+    case QEvent::TouchCancel:
+        SurfaceView::touch(TouchEvent::Cancel, 0, {}, 0);
+        break;
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-        event->accept();
-        touch(static_cast<QTouchEvent&>(*event));
-        break;
-    case QEvent::TouchCancel:
-        gesture_.cancel();
         break;
     default:
         return QWidget::event(event);
     }
+    event->accept();
+    touch(static_cast<QTouchEvent&>(*event));
     if (!gesture_.waits()) {
         longPress_.stop();
     } else if (!longPress_.isActive()) {
@@ -210,15 +205,13 @@ bool SurfaceWidget::event(QEvent* event) {
 }
 
 void SurfaceWidget::touch(const QTouchEvent& event) {
-    const double startDrag = QGuiApplication::styleHints()->startDragDistance();
+    static const std::map<QEventPoint::State, TouchEvent> events{{QEventPoint::Pressed, TouchEvent::Begin},
+                                                                 {QEventPoint::Updated, TouchEvent::Move},
+                                                                 {QEventPoint::Released, TouchEvent::End}};
+    const float startDrag = twips({static_cast<double>(QGuiApplication::styleHints()->startDragDistance()), 0}).x;
     for (const QEventPoint& point : event.points()) {
-        const Point at = twips(point.position());
-        if (point.state() == QEventPoint::Pressed) {
-            gesture_.touch(point.id(), at, twips({startDrag, 0}).x);
-        } else if (point.state() == QEventPoint::Updated) {
-            gesture_.move(point.id(), at);
-        } else if (point.state() == QEventPoint::Released) {
-            gesture_.lift(point.id(), at);
+        if (const auto found = events.find(point.state()); found != events.end()) {
+            SurfaceView::touch(found->second, point.id(), twips(point.position()), startDrag);
         }
     }
 }
@@ -226,54 +219,37 @@ void SurfaceWidget::touch(const QTouchEvent& event) {
 void SurfaceWidget::timerEvent(QTimerEvent* event) {
     if (event->timerId() == longPress_.timerId()) {
         longPress_.stop();
-        gesture_.longPress();
+        SurfaceView::touch(TouchEvent::LongPress, 0, {}, 0);
         showCursor();
     }
 }
 
 // The toolkit forgets where a button went down when another window comes to block this one.
 void SurfaceWidget::inputUnblocked() {
+    SurfaceView::inputUnblocked();
     forgotten_ = capture_.holds();
-    if (forgotten_) {
-        window()->windowHandle()->installEventFilter(this);
-    }
 }
 
-// What the window hears of a held button that the toolkit has forgotten. Let go while the input was blocked, it is held
-// no longer.
-bool SurfaceWidget::eventFilter(QObject* /*watched*/, QEvent* event) {
+// While a button is held the window listens too: for moves outside the widget that show a lost release, and for what
+// the toolkit sends nowhere since it has forgotten the button.
+bool SurfaceWidget::eventFilter(QObject* window, QEvent* event) {
+    if (!capture_.holds()) {
+        window->removeEventFilter(this);
+        return false;
+    }
     const auto type = event->type();
-    if (!forgotten_ ||
-        (type != QEvent::MouseMove && type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease)) {
+    if (type != QEvent::MouseMove && type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease) {
         return false;
     }
     const auto& mouseEvent = static_cast<const QMouseEvent&>(*event);
-    const Qt::MouseButtons before = type == QEvent::MouseButtonPress     ? mouseEvent.buttons() ^ mouseEvent.button()
-                                    : type == QEvent::MouseButtonRelease ? mouseEvent.buttons() | mouseEvent.button()
-                                                                         : mouseEvent.buttons();
-    forgotten_ = before != Qt::NoButton && mouseEvent.buttons() != Qt::NoButton;
-    if (before == Qt::NoButton) {
-        return false;
+    const bool isFirstPress = type == QEvent::MouseButtonPress && mouseEvent.buttons() == mouseEvent.button();
+    const bool isBareMove = type == QEvent::MouseMove && mouseEvent.buttons() == Qt::NoButton;
+    const bool unsent = forgotten_ && !isFirstPress && !isBareMove;
+    forgotten_ = forgotten_ && !isFirstPress && mouseEvent.buttons() != Qt::NoButton;
+    if (unsent || isBareMove) {
+        mouse(mouseEvent);
     }
-    mouse(mouseEvent);
-    return true;
-}
-
-// A window that goes from the screen is not told when the button is let go.
-void SurfaceWidget::hideEvent(QHideEvent* /*event*/) {
-    hidden_ = capture_.holds();
-}
-
-void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
-    if (std::exchange(hidden_, false)) {
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                letGo();
-                showCursor();
-            },
-            Qt::QueuedConnection);
-    }
+    return unsent;
 }
 
 void SurfaceWidget::changeEvent(QEvent* event) {

@@ -43,8 +43,6 @@ protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     PixelScale pixelScale() const { return PixelScale(scale_ * pixelRatio(*this)); }
@@ -62,8 +60,7 @@ private:
     std::optional<QtCanvas> canvas_;       // in device pixels, once it has been painted
     double scale_ = 1;
     bool outOfDate_ = false;
-    bool forgotten_ = false; // by the toolkit, that a button went down here and is held
-    bool hidden_ = false;    // while a button was held
+    bool forgotten_ = false; // the toolkit has forgotten that a button went down here and is held
     QWidget* focusFrame_;
 };
 

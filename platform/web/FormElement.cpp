@@ -1,33 +1,28 @@
 #include "platform/web/FormElement.h"
 
-#include "platform/forms/Desktop.h"
+#include "platform/web/ControlKeys.h"
+#include "platform/web/TextLayout.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <string>
+#include <memory>
+#include <vector>
 
 namespace tumble {
 
 namespace {
 
-// In the order of `AnyControl`: a template of index.html, and what a caption leaves free at scale 1, as in style.css.
-constexpr std::array templates{"picture", "label", "button", "option", "frame", "slider"};
-constexpr std::array<PixelSize, templates.size()> margins{{{}, {}, {8, 4}, {20, 0}, {frameCaptionHeight, 0}, {}}};
-
-constexpr double lineHeight = 1.25; // of the font's size, as in style.css
-
-TextSize measure(const std::string& text, const CaptionFont& font, std::optional<int> width) {
-    const auto widthOf = [&font](const std::string& piece) {
-        return page_textWidth(piece.c_str(), font.pixels(), font.bold) * font.stretch / 100;
-    };
-    return textSize(PlainCaption(text).text, widthOf, static_cast<int>(std::ceil(font.pixels() * lineHeight)), width);
-}
+constexpr std::array templates{"picture", "label", "button",
+                               "option",  "frame", "slider"}; // as `AnyControl`, index.html
+constexpr double lineHeight = 1.25;                           // of the font's size, as in style.css
+constexpr double mostOfPage = 0.9;                            // for a dialog and its frame
 
 void place(const Control& /*control*/, int element, const PixelRect& to) {
     page_place(element, to.left, to.top, to.width(), to.height());
 }
 
-// Lies, turned about its upper left corner.
+// The slider lies, turned about its upper left corner.
 void place(const Slider& /*slider*/, int element, const PixelRect& to) {
     page_place(element, to.right + 1, to.top, to.height(), to.width());
 }
@@ -44,7 +39,50 @@ void showValue(const Slider& slider, int element) {
     page_property(element, "value", slider.Value());
 }
 
+std::vector<AnyControl> inTabOrder(const Container& container) {
+    std::vector<AnyControl> controls = container.controls();
+    std::stable_sort(controls.begin(), controls.end(), [](const AnyControl& one, const AnyControl& other) {
+        return asControl(one).TabIndex() < asControl(other).TabIndex();
+    });
+    return controls;
+}
+
+/// A dialog at the scale of the program's largest form on the page, or at one at which it fits.
+Layout layoutOfDialog(const FormSize& dialog, PixelSize page) {
+    const Application& App = desktop().App();
+    const double scale = std::min(layoutOf({App.Width, App.Height}, page, 1).scale,
+                                  mostOfPage * dialog.scaleToFit(page.width, page.height));
+    return {.scale = scale, .content = dialog.at(scale).at({})};
+}
+
 } // namespace
+
+TextSize measure(const std::string& text, const CaptionFont& font, std::optional<int> width) {
+    const auto widthOf = [&font](const std::string& piece) {
+        return page_textWidth(piece.c_str(), font.pixels(), font.bold) * font.stretch / 100;
+    };
+    return textSize(PlainCaption(text).text, widthOf, static_cast<int>(std::ceil(font.pixels() * lineHeight)), width);
+}
+
+template<class ControlType>
+class FormElement::ElementView : public ControlView {
+public:
+    ElementView(const FormElement& form, const ControlType& control, int element)
+        : form_(form), control_(control), element_(element) {}
+
+    void place(const PixelRect& pixels) override { tumble::place(control_, element_, pixels); }
+    void update(double /*scale*/) override {
+        page_caption(element_, control_.Caption().c_str());
+        showValue(control_, element_);
+        form_.relate(control_, element_);
+    }
+    void setFont(const CaptionFont& font) override { page_font(element_, font.pixels(), font.bold, font.stretch); }
+
+private:
+    const FormElement& form_;
+    const ControlType& control_;
+    int element_;
+};
 
 FormElement::FormElement(Form& form, Modality modality, PictureCache& pictures)
     : FormView(form, measure),
@@ -53,6 +91,9 @@ FormElement::FormElement(Form& form, Modality modality, PictureCache& pictures)
       window_(page_add(0, modality == Modality::Modal ? "dialog" : "window")),
       content_(page_add(window_, "content")) {
     page_caption(window_, form.Caption().c_str());
+    if (form.kind == FormKind::Alert) {
+        page_attribute(window_, "role", "alertdialog");
+    }
     build(form, content_);
 }
 
@@ -60,26 +101,19 @@ void FormElement::build(const Container& container, int parent) {
     for (const AnyControl& any : inTabOrder(container)) {
         const int element = page_add(parent, templates.at(any.index()));
         page_attribute(element, "data-name", asControl(any).Name().c_str());
-        const auto build = [&, margin = margins.at(any.index())](auto* control) {
-            complete(*control, element);
-            const auto update = [this, control, element] {
-                page_caption(element, control->Caption().c_str());
-                showValue(*control, element);
-                relate(*control, element);
-            };
-            const auto captionArea = [this, control, margin] { return availableSize(*control, margin); };
-            const auto setFont = [element](const CaptionFont& font) {
-                page_font(element, font.pixels(), font.bold, font.stretch);
-            };
-            const auto placed = [control, element](const PixelRect& to) { place(*control, element, to); };
-            add(any, {placed, update, captionArea, setFont, element});
-        };
-        std::visit(build, any);
+        controls_.emplace(element, any);
+        std::visit(
+            [&](auto* control) {
+                complete(*control, element);
+                FormView::add(any, std::make_unique<ElementView<std::remove_pointer_t<decltype(control)>>>(
+                                       *this, *control, element));
+            },
+            any);
     }
 }
 
 void FormElement::complete(const Label& label, int element) {
-    const std::string wraps = captionStyle(label).wrap == Wrap::No ? "" : "wraps ";
+    const std::string wraps = label.wraps() ? "wraps " : "";
     page_attribute(element, "class", (wraps + (label.align == TextAlign::Centre ? "centred" : "")).c_str());
 }
 
@@ -91,11 +125,20 @@ void FormElement::complete(const CommandButton& button, int element) {
 }
 
 void FormElement::relate(const Label& label, int element) const {
+    if (form()->kind == FormKind::Alert) {
+        page_attribute(window_, "aria-describedby", std::to_string(element).c_str());
+    }
     if (label.describes != nullptr) {
-        // Spoken when it becomes another, and when the player comes to what it tells of.
+        // Spoken when it changes, and when the player comes to the control that it describes.
         page_attribute(element, "aria-live", "polite");
         page_attribute(elementOf(*label.describes), "aria-describedby", std::to_string(element).c_str());
     }
+}
+
+int FormElement::elementOf(const Control& control) const {
+    return std::find_if(controls_.begin(), controls_.end(),
+                        [&](const auto& each) { return &asControl(each.second) == &control; })
+        ->first;
 }
 
 void FormElement::Show() {
@@ -113,21 +156,59 @@ void FormElement::MousePointer(Pointer pointer) {
 }
 
 void FormElement::detach() {
+    controls_.clear();
     FormView::detach();
     shows_ = false;
     page_remove(window_);
 }
 
 void FormElement::fit(PixelSize page) {
-    const Application& App = desktop().App();
     const FormSize size(form()->Width(), form()->Height());
     const bool isModal = modality_ == Modality::Modal;
-    layOut(isModal ? layoutOver({App.Width, App.Height}, size, page) : layoutOf(size, page, 1));
-    page_unit(isModal ? window_ : 0, scale()); // message boxes have the page's
-    page_place(content_, content().left, content().top, content().width(), content().height());
-    for (SurfaceElement& canvas : canvases_) {
-        canvas.layOut(availableSize(*canvas.box()), PixelScale(scale()));
+    layOut(isModal ? layoutOfDialog(size, page) : layoutOf(size, page, 1));
+    page_unit(window_, scale());
+    const PixelRect& content = formLayout().content;
+    page_place(content_, content.left, content.top, content.width(), content.height());
+    for (SurfaceElement& surface : surfaces_) {
+        surface.layOut(formLayout().pixels(surface.box()->place()).size(), PixelScale(scale()));
     }
+}
+
+SurfaceElement* FormElement::surface(int element) {
+    const auto found = std::find_if(surfaces_.begin(), surfaces_.end(),
+                                    [&](const SurfaceElement& each) { return each.element() == element; });
+    return found != surfaces_.end() && found->box() != nullptr ? &*found : nullptr;
+}
+
+void FormElement::input(int element, int value) const {
+    if (const auto found = controls_.find(element); found != controls_.end()) {
+        const AnyControl control = found->second;
+        FormView::input(control, value);
+    }
+}
+
+bool FormElement::key(int focused, const KeyPress& press) {
+    if (press.letter != 0) {
+        return press.repeated || form()->pressAccessKey(press.letter);
+    }
+    if (press.key >= Key::Enter && press.key != Key::Other) {
+        if (!press.repeated) {
+            form()->press(press.key);
+        }
+        return true;
+    }
+    const auto found = controls_.find(focused);
+    if (found == controls_.end() || press.key == Key::Other) {
+        return false;
+    }
+    if (SurfaceElement* focusedSurface = surface(focused)) {
+        return focusedSurface->key(press);
+    }
+    const auto now = tumble::press(found->second, press.key);
+    if (now && form() != nullptr) {
+        page_focus(elementOf(asControl(*now)));
+    }
+    return now.has_value();
 }
 
 } // namespace tumble

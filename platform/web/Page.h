@@ -6,20 +6,21 @@
 // What it reports comes in at the end of WebDesktop.cpp.
 extern "C" {
 
-/// From now on the page reports what happens; its size at once.
-void page_listen();
+/// The page reports from now on what happens, and its size at once: keys by their positions in a list of the browser's
+/// names, divided by commas; itself never smaller than the least size, at which it shrinks what it shows.
+void page_listen(const char* keyNames, int leastWidth, int leastHeight);
 
-/// Adds a template of index.html. The number stands for the whole of it, or for the part that is meant: an attribute or
-/// a property is that of the input or canvas in it, if there is one.
+/// Adds a clone of a `<template>` of index.html and returns its number. Attributes, properties and the focus are those
+/// of the input or canvas in it, if there is one.
 int page_add(int parent, const char* name);
-/// With all that is in it; a number that is gone already is nothing.
+/// With all that is in it; a number that was removed already is ignored.
 void page_remove(int element);
 void page_attribute(int element, const char* name, const char* value);
 void page_property(int element, const char* name, int value);
-/// How long a pixel of the unscaled form is in an element and all in it.
+/// The length of a pixel of the unscaled form, in an element and all in it.
 void page_unit(int element, double pixels);
 void page_place(int element, int left, int top, int width, int height);
-/// Where nothing in it shows a caption, that is its name.
+/// A caption that nothing in the element shows is its accessible name.
 void page_caption(int element, const char* text);
 void page_font(int element, double pixels, bool bold, int stretch);
 double page_textWidth(const char* text, double pixels, bool bold);
@@ -39,7 +40,7 @@ int page_canvasMake();
 void page_canvasSize(int canvas, int width, int height);
 void page_canvasClip(int canvas, int left, int top, int width, int height);
 void page_canvasFill(int canvas, std::int32_t colour, int left, int top, int width, int height);
-/// What a path is filled with that has no colour.
+/// The texture of the next path that is filled without a colour.
 void page_canvasTexture(int canvas, int texture, int x, int y);
 /// Filled, unless it is stroked with a pen of some width; no colour is negative.
 void page_canvasPath(int canvas, std::int32_t colour, const double* transform, const void* steps, int count,

@@ -13,6 +13,7 @@ class SurfaceElement : public SurfaceView {
 public:
     SurfaceElement(PictureBox& box, int element, PictureCache& pictures);
 
+    int element() const { return canvas_.element(); }
     /// A place in pixels of the canvas.
     Point twips(double x, double y) const { return {scale_.twips(x), scale_.twips(y)}; }
 

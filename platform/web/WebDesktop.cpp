@@ -1,7 +1,10 @@
 #include "platform/web/WebDesktop.h"
 
+#include "platform/forms/Mouse.h"
 #include "platform/web/Page.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <utility>
@@ -15,6 +18,11 @@ namespace {
 constexpr double leastFrame = 16; // milliseconds
 constexpr float startDragDistance = 10 * twipsPerPixel;
 
+// As browsers name them, in the order of `Key`; the last ones are left to the browser.
+constexpr const char* keyNames =
+    "ArrowLeft,ArrowUp,ArrowRight,ArrowDown,Home,PageUp,End,PageDown, ,f,ContextMenu,F10,Enter,Escape,F1";
+constexpr std::array buttons{leftButton, middleButton, rightButton}; // by a browser's numbers
+
 WebDesktop& page() {
     return static_cast<WebDesktop&>(desktop());
 }
@@ -22,9 +30,10 @@ WebDesktop& page() {
 } // namespace
 
 WebDesktop::WebDesktop(Application application, PicturePainter painter)
-    : WindowDesktop(std::move(application)), pictures_(std::move(painter)) {
+    : WindowDesktop(std::move(application), tumble::measure), pictures_(std::move(painter)) {
     desktop(this);
-    page_listen();
+    const auto [width, height] = FormSize(App().Width, App().Height).at(static_cast<double>(leastFactor));
+    page_listen(keyNames, width, height);
 }
 
 std::shared_ptr<FormView> WebDesktop::open(Form& form, Modality modality) {
@@ -36,13 +45,13 @@ std::shared_ptr<FormView> WebDesktop::open(Form& form, Modality modality) {
 void WebDesktop::resized(PixelSize page) {
     page_ = page;
     for (const auto& window : windows()) {
-        static_cast<FormElement&>(*window).fit(page);
+        formElement(*window).fit(page);
     }
 }
 
 void WebDesktop::suspend(void (*wait)()) {
     if (std::exchange(suspended_, true)) {
-        std::abort(); // there is one place for a stack
+        std::abort();
     }
     forEachSurface(&SurfaceView::showNow);
     wait();
@@ -51,14 +60,6 @@ void WebDesktop::suspend(void (*wait)()) {
 
 void WebDesktop::waitFor(FormView& window) {
     window.onClosed = page_resume;
-    suspend(page_suspend);
-}
-
-void WebDesktop::showBox(const std::string& text, const std::string& caption) {
-    box_ = page_add(0, "message");
-    page_attribute(box_, "aria-label", caption.c_str());
-    page_caption(box_, text.c_str());
-    page_show(box_);
     suspend(page_suspend);
 }
 
@@ -82,24 +83,14 @@ void WebDesktop::End() {
 }
 
 void WebDesktop::input(int element, int value) {
-    if (element == box_) {
-        page_remove(std::exchange(box_, 0));
-        page_resume();
-    } else if (const FormView* window = inFront()) {
-        window->input(element, value);
+    if (FormView* window = inFront()) {
+        formElement(*window).input(element, value);
     }
 }
 
 bool WebDesktop::key(int focus, const KeyPress& press) {
-    if (box_ == 0) {
-        FormView* window = inFront();
-        return window != nullptr && window->key(focus, press);
-    }
-    const bool closes = press.key == Key::Enter || press.key == Key::Esc;
-    if (closes && !press.repeated) {
-        input(box_, 0);
-    }
-    return closes;
+    FormView* window = inFront();
+    return window != nullptr && formElement(*window).key(focus, press);
 }
 
 } // namespace tumble
@@ -126,18 +117,17 @@ EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, char letter, std::int16_t
     return !taken;
 }
 
-EMSCRIPTEN_KEEPALIVE void page_mouse(int element, std::int16_t changed, std::int16_t held, std::int16_t Shift, double x,
+// The changed button by the browser's number, -1 for a move.
+EMSCRIPTEN_KEEPALIVE void page_mouse(int element, int button, std::int16_t held, std::int16_t Shift, double x,
                                      double y) {
+    const std::int16_t changed =
+        button < 0 || button >= std::ssize(buttons) ? std::int16_t{0} : buttons.at(static_cast<std::size_t>(button));
     page().handle(element, [=](SurfaceElement& surface) { surface.mouse(changed, held, Shift, surface.twips(x, y)); });
 }
 
-EMSCRIPTEN_KEEPALIVE void page_finger(int element, int event, int number, double x, double y) {
+EMSCRIPTEN_KEEPALIVE void page_touch(int element, int event, int finger, double x, double y) {
     page().handle(element, [=](SurfaceElement& surface) {
-        surface.finger(static_cast<TouchEvent>(event), number, surface.twips(x, y), startDragDistance);
+        surface.touch(static_cast<TouchEvent>(event), finger, surface.twips(x, y), startDragDistance);
     });
-}
-
-EMSCRIPTEN_KEEPALIVE void page_letGo() {
-    page().handle([] { page().forEachSurface(&SurfaceView::letGo); });
 }
 }

@@ -5,13 +5,11 @@
 #include "platform/window/WindowDesktop.h"
 
 #include <memory>
-#include <string>
 
 namespace tumble {
 
-/// The desktop in a browser's page, which fills it with one form at a time. Where a call blocks, the running handler is
-/// suspended and the page goes on to report. That happens to one handler at a time: what runs while it is suspended, of
-/// a modal form, must not block.
+/// The desktop in a browser's page, which one form at a time fills. A call that blocks suspends the running handler.
+/// Asyncify can suspend one stack only, so a handler that runs meanwhile, of a modal form, must not block.
 class WebDesktop : public WindowDesktop {
 public:
     /// Puts itself in use, for as long as the page lasts. Pictures that the painter does not know are crossed cards.
@@ -23,7 +21,7 @@ public:
 
     // What the page reports.
 
-    /// Handles a report, if the game is not over; what it leads to shows afterwards.
+    /// Handles a report, if the game is not over, and then shows what was painted.
     template<class Report>
     void handle(const Report& report) {
         if (!ended_) {
@@ -32,11 +30,14 @@ public:
             forEachSurface(&SurfaceView::showNow);
         }
     }
-    /// A report of one picture box, if that is still there.
+    /// Handles a report of one picture box, if that is still there.
     template<class Report>
     void handle(int element, const Report& report) {
-        if (auto* surface = static_cast<SurfaceElement*>(WindowDesktop::surface(element))) {
-            handle([&] { report(*surface); });
+        for (const auto& window : windows()) {
+            if (SurfaceElement* surface = formElement(*window).surface(element)) {
+                handle([&] { report(*surface); });
+                return;
+            }
         }
     }
     void resized(PixelSize page);
@@ -47,15 +48,14 @@ public:
 protected:
     std::shared_ptr<FormView> open(Form& form, Modality modality) override;
     void waitFor(FormView& window) override;
-    void showBox(const std::string& text, const std::string& caption) override;
 
 private:
+    static FormElement& formElement(FormView& view) { return static_cast<FormElement&>(view); }
     /// Suspends the running handler for as long as the page waits.
     void suspend(void (*wait)());
 
     PictureCache pictures_;
     PixelSize page_;
-    int box_ = 0;          // the message box that is open
     double lastFrame_ = 0; // milliseconds
     bool suspended_ = false;
     bool ended_ = false;

@@ -1,6 +1,6 @@
 // What the page does for the program, and what it reports to it: nothing is decided here. The program knows elements by
 // numbers, lengths in pixels of the screen.
-/* global _page_finger, _page_input, _page_key, _page_letGo, _page_mouse, _page_resized, _page_start */
+/* global _page_input, _page_key, _page_mouse, _page_resized, _page_start, _page_touch */
 /* global Asyncify, HEAP32, HEAPF64, UTF8ToString */
 'use strict';
 
@@ -13,20 +13,17 @@ const page = {
   began: null, // the one on which the last press or touch began; null: elsewhere
   pressTime: 0,
   wakeUp: null,
-  // In the order of the program's.
-  keys: ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown', 'Home', 'PageUp', 'End', 'PageDown', ' ', 'f',
-    'ContextMenu', 'F10', 'Enter', 'Escape', 'F1'],
-  touches: ['pointerdown', 'pointermove', 'pointerup'], // likewise; then the long press
-  buttons: [1, 4, 2], // the program's: left, middle, right
+  keys: [],
+  touches: {pointerdown: 0, pointermove: 1, pointerup: 2, longpress: 3, pointercancel: 4}, // TouchEvent
 
   number(element) {
-    element.act = element.querySelector('input, canvas') ?? element; // what the player acts on
+    element.target = element.querySelector('input, canvas') ?? element; // what attributes and the focus are for
     element.number = element.id = page.elements.push(element) - 1;
     return element.number;
   },
   css: (pixels) => `${pixels / page.ratio}px`,
   colour: (bgr) => page.colours[bgr] ??= `rgb(${bgr & 255},${bgr >> 8 & 255},${bgr >> 16 & 255})`,
-  context: (canvas) => page.elements[canvas].act.context,
+  context: (canvas) => page.elements[canvas].target.context,
   shiftKeys: (event) => event.shiftKey + 2 * event.ctrlKey + 4 * event.altKey + 8 * event.metaKey,
 
   key(event) {
@@ -42,7 +39,7 @@ const page = {
     const box = !touches && page.held || event.target.closest?.('.surface');
     if (type === 'pointerdown') {
       page.began = box;
-      box?.act.focus({preventScroll: true});
+      box?.target.focus({preventScroll: true});
       page.held = touches ? page.held : box;
     }
     page.held = buttons ? page.held : null;
@@ -57,24 +54,21 @@ const page = {
     const x = (event.clientX - box.corner.left) * page.ratio;
     const y = (event.clientY - box.corner.top) * page.ratio;
     if (!touches) {
-      _page_mouse(box.number, page.buttons[button] ?? 0, buttons, page.shiftKeys(event), x, y);
+      _page_mouse(box.number, button, buttons, page.shiftKeys(event), x, y);
       return;
     }
     if (type === 'pointerdown') {
-      page.pressTime = setTimeout(_page_finger, 600, box.number, page.touches.length, pointerId, x, y);
+      page.pressTime = setTimeout(_page_touch, 600, box.number, page.touches.longpress, pointerId, x, y);
     }
-    _page_finger(box.number, page.touches.indexOf(type), pointerId, x, y);
+    _page_touch(box.number, page.touches[type], pointerId, x, y);
   },
-  listen() {
+  listen(keys, leastWidth, leastHeight) {
+    page.keys = UTF8ToString(keys).split(',');
     const on = (types, listener) => types.forEach((type) => document.addEventListener(type, listener, true));
     on(['keydown'], page.key);
     on(['keydown'], ({key}) => /^(Tab|Arrow)/.test(key) && document.body.classList.add('keys'));
     on(['pointerdown'], () => document.body.classList.remove('keys'));
-    on(page.touches, page.pointer);
-    on(['pointercancel', 'visibilitychange'], () => {
-      page.held = null;
-      document.hidden || _page_letGo();
-    });
+    on(['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], page.pointer);
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
     // What is no control takes no focus.
     on(['mousedown'], (event) => event.target.closest?.('button, label, input, a') ?? event.preventDefault());
@@ -94,8 +88,7 @@ const page = {
     // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
     const resized = ({width, height}, told) => {
-      // On fewer pixels than the smallest scale needs, what is shown is shrunk.
-      page.ratio = Math.max(devicePixelRatio, 480 / width, 336 / height);
+      page.ratio = Math.max(devicePixelRatio, leastWidth / width, leastHeight / height);
       main.style.setProperty('--hairline', page.css(Math.round(page.ratio)));
       const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
       main.shows === (main.shows = `${size} ${page.ratio}`) || _page_resized(...size);
@@ -119,7 +112,7 @@ const page = {
     const element = document.getElementById(UTF8ToString(name)).content.firstElementChild.cloneNode(true);
     page.elements[parent].append(element);
     page.number(element);
-    element.act.name = parent; // one choice for each container
+    element.target.name = parent; // one choice for each container
     return element.number;
   },
   remove(number) {
@@ -130,8 +123,8 @@ const page = {
     page.elements[number] = null;
   },
   attribute: (number, name, value) =>
-    page.elements[number].act.setAttribute(UTF8ToString(name), UTF8ToString(value)),
-  property: (number, name, value) => Object.assign(page.elements[number].act, {[UTF8ToString(name)]: value}),
+    page.elements[number].target.setAttribute(UTF8ToString(name), UTF8ToString(value)),
+  property: (number, name, value) => Object.assign(page.elements[number].target, {[UTF8ToString(name)]: value}),
   unit: (number, pixels) => page.elements[number].style.setProperty('--unit', page.css(pixels)),
   place(number, left, top, width, height) {
     const element = page.elements[number];
@@ -152,7 +145,7 @@ const page = {
     const mark = document.createElement('u');
     mark.textContent = letter;
     shows?.replaceChildren(before, ...letter ? [mark, after] : []);
-    shows ?? element.act.setAttribute('aria-label', caption);
+    shows ?? element.target.setAttribute('aria-label', caption);
   },
   font(number, pixels, bold, stretch) {
     const {style} = page.elements[number].querySelector('span');
@@ -163,7 +156,7 @@ const page = {
     page.ruler.font = `${bold ? 'bold ' : ''}${pixels}px system-ui,sans-serif`;
     return page.ruler.measureText(UTF8ToString(text)).width;
   },
-  focus: (number) => page.elements[number].act.focus({preventScroll: true}),
+  focus: (number) => page.elements[number].target.focus({preventScroll: true}),
   show(number) {
     const element = page.elements[number];
     document.body.classList.remove('keys');
@@ -175,7 +168,7 @@ const page = {
     }
     element.querySelector('canvas[tabindex], button').focus();
   },
-  over() {
+  gameOver() {
     document.body.classList.add('over');
     document.querySelector('#over a').focus();
   },
@@ -196,7 +189,7 @@ const page = {
 
   canvasMake: () => page.number(document.createElement('canvas')),
   canvasSize(canvas, width, height) {
-    const element = page.elements[canvas].act;
+    const element = page.elements[canvas].target;
     Object.assign(element, {width, height});
     element.context = element.getContext('2d');
     element.context.imageSmoothingEnabled = false;

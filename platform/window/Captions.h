@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/window/ControlView.h"
 #include "platform/window/Layout.h"
 
 #include <functional>
@@ -15,6 +16,7 @@ enum class Wrap { No, Twice, Freely };
 struct CaptionStyle {
     Font font{};
     Wrap wrap = Wrap::No;
+    PixelSize margin{}; // what the control keeps free beside and above its caption, at scale 1
 
     friend bool operator==(const CaptionStyle&, const CaptionStyle&) = default;
 };
@@ -40,41 +42,30 @@ struct TextSize {
     int lineSpacing;
 };
 
-/// How large the desktop writes a text, broken at a width if there is one. The ampersand of an access key takes no
-/// room.
+/// How large the desktop shows a text, broken at line feeds and, if there is one, at a width. The ampersand of an
+/// access key takes no space.
 using TextMeasure = std::function<TextSize(const std::string& text, const CaptionFont& font, std::optional<int> width)>;
 
-/// How wide a desktop writes a piece of a text in one line.
-using WidthOf = std::function<double(const std::string& piece)>;
-
-/// How large a text is in lines of a height, for a desktop that can only measure pieces: broken at spaces if there is a
-/// width, as many words in a line as fit.
-TextSize textSize(const std::string& text, const WidthOf& widthOf, int lineSpacing, std::optional<int> width);
-
-/// The captions that show in a window. Those of one container that are alike have one size: the one asked for, times
-/// the scale, or where not all of them fit their rooms, the largest smaller and at last narrower one in which they do;
-/// never below 6.5 points times the scale. Fonts differ by a fifth between machines, places do not.
+/// The captions of a window. Those of one container that are alike have one size: the one asked for, times the scale,
+/// or where not all of them fit, the largest smaller and at last narrower one in which they do; never below 6.5 points
+/// times the scale. Fonts differ by a fifth between machines, places do not.
 class Captions {
 public:
-    using AvailableSize = std::function<PixelSize()>;
-    using SetFont = std::function<void(const CaptionFont&)>;
-
     explicit Captions(TextMeasure measure);
 
-    /// `available` is what the control has for its caption at the time. The control goes with the window, or `clear` is
-    /// called.
-    void add(const Control& control, const CaptionStyle& style, AvailableSize available, SetFont setFont);
+    /// `place` is the control's in its container. The view lasts as long as the captions, or until `clear` is called.
+    void add(const Control& control, const CaptionStyle& style, const Place& place, ControlView& view);
     void clear() { groups_.clear(); }
 
-    void fit(double scale) const;
-    /// A caption is another.
-    void fit(const Control& changed, double scale) const;
+    void fit(const Layout& layout) const;
+    /// Only where the changed control's caption has an influence.
+    void fit(const Control& changed, const Layout& layout) const;
 
 private:
     struct Each {
         const Control* control;
-        AvailableSize available;
-        SetFont setFont;
+        Place place;
+        ControlView* view;
     };
     struct Group {
         const Container* container;
@@ -82,8 +73,8 @@ private:
         std::vector<Each> captions;
     };
 
-    void fit(const Group& group, double scale) const;
-    bool fits(const Group& group, const CaptionFont& font) const;
+    void fit(const Group& group, const Layout& layout) const;
+    bool fits(const Group& group, const CaptionFont& font, const Layout& layout) const;
 
     TextMeasure measure_;
     std::vector<Group> groups_;

@@ -9,7 +9,6 @@ namespace {
 
 constexpr float optionGap = 45; // twips, as below
 constexpr float mostToTheRight = 240;
-constexpr double mostOfWindow = 0.9; // for a dialog and its frame
 
 double unscaled(float twips) {
     return static_cast<double>(twips) / static_cast<double>(twipsPerPixel);
@@ -45,18 +44,17 @@ PixelRect Layout::pixels(const Place& place) const {
             .bottom = pixel(place.Top + place.Height) - 1};
 }
 
+// With a pixel and a hundredth to spare: the window's size in whole pixels may make the scale a little smaller.
+float Layout::twips(int pixels) const {
+    return static_cast<float>((pixels * 1.01 + 1) * static_cast<double>(twipsPerPixel) / scale);
+}
+
 Layout layoutOf(const FormSize& form, PixelSize window, double ratio) {
     const double scale = showable(form.scaleToFit(window.width, window.height), ratio);
     const auto [width, height] = form.at(scale);
     const int left = rounded((window.width - width) / 2.0);
     const int top = rounded((window.height - height) / 2.0);
     return {.scale = scale, .content = form.at(scale).at({left, top})};
-}
-
-Layout layoutOver(const FormSize& below, const FormSize& dialog, PixelSize window) {
-    const double scale =
-        std::min(layoutOf(below, window, 1).scale, mostOfWindow * dialog.scaleToFit(window.width, window.height));
-    return {.scale = scale, .content = dialog.at(scale).at({})};
 }
 
 Place allottedPlace(const Control& control) {

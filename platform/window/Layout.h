@@ -31,13 +31,12 @@ struct Layout {
 
     /// The pixels of a place in its container.
     PixelRect pixels(const Place& place) const;
+    /// A length in twips that comprises so many pixels.
+    float twips(int pixels) const;
 };
 
 /// The form as large as fits the window, in its middle.
 Layout layoutOf(const FormSize& form, PixelSize window, double ratio);
-
-/// A dialog over another form, which fills a window of the device's own pixels: at its scale, or one at which it fits.
-Layout layoutOver(const FormSize& below, const FormSize& dialog, PixelSize window);
 
 /// The place that a desktop gives to a control. An option button shows no border: its caption may use half of the space
 /// to its neighbours above and below, and some of that on its right.

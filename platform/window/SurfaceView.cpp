@@ -13,26 +13,4 @@ void SurfaceView::mouse(std::int16_t changed, std::int16_t held, std::int16_t Sh
     }
 }
 
-void SurfaceView::finger(TouchEvent event, int number, Point at, float startDragDistance) {
-    switch (event) {
-    case TouchEvent::Touch:
-        gesture_.touch(number, at, startDragDistance);
-        break;
-    case TouchEvent::Move:
-        gesture_.move(number, at);
-        break;
-    case TouchEvent::Lift:
-        gesture_.lift(number, at);
-        break;
-    case TouchEvent::LongPress:
-        gesture_.longPress();
-        break;
-    }
-}
-
-void SurfaceView::letGo() {
-    gesture_.cancel();
-    capture_.letGo();
-}
-
 } // namespace tumble

@@ -9,31 +9,31 @@
 
 namespace tumble {
 
-/// A picture box as a window shows it, whatever the window is made of, and what mouse, keys and fingers do to it.
+/// A picture box as a window shows it, whatever the window is made of, with the input that the box receives.
 class SurfaceView : private NonMovable {
 public:
-    /// The cache outlives the surface; so does the box, or `detach` is called.
+    /// The cache outlives the view; so does the box, or `detach` is called.
     SurfaceView(PictureBox& box, PictureCache& pictures) : capture_(box), shown_(box.displayList(), pictures) {}
     virtual ~SurfaceView() = default;
 
-    /// Null once retired.
+    /// Null once detached.
     const PictureBox* box() const { return capture_.box(); }
 
     /// Brings what was painted to the screen at once.
     virtual void showNow() = 0;
-    /// A message box or modal window over this one has closed, and may have come up while a button was held.
-    virtual void inputUnblocked() {}
+    /// A modal window over this one has closed; it may have opened while a button was held.
+    virtual void inputUnblocked() { capture_.inputUnblocked(); }
 
-    /// The button that goes down or up, 0 for a move, and the sum of those that are down afterwards, as a box's
-    /// handlers get them; the keys held with them.
+    /// A button went down or up, or, with 0, the mouse moved; `held` is the sum of those that are down afterwards.
+    /// `Shift`: the modifier keys.
     void mouse(std::int16_t changed, std::int16_t held, std::int16_t Shift, Point at);
-    /// A finger by its number; the start-drag distance in twips.
-    void finger(TouchEvent event, int number, Point at, float startDragDistance);
-    /// Whether the key is one of the pointer's.
+    /// As for a gesture.
+    void touch(TouchEvent event, int finger, Point at, float startDragDistance) {
+        gesture_.handle(event, finger, at, startDragDistance);
+    }
+    /// Whether the key is one of the keyboard's pointer.
     bool key(const KeyPress& press) { return box() != nullptr && box()->listens() && pointer_.key(press); }
-    /// The button or finger that holds something is out of sight: it counts as let go where it was last.
-    void letGo();
-    /// The box may be gone from now on; what shows stays.
+    /// The box receives nothing from now on and may be destroyed; what shows stays.
     void detach() { capture_.detach(); }
 
 protected:

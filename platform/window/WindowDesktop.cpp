@@ -5,6 +5,9 @@
 namespace tumble {
 
 void WindowDesktop::Show(Form& form, Modality modality) {
+    if (modality == Modality::Modal) {
+        forEachSurface(&SurfaceView::showNow);
+    }
     const auto place =
         std::find_if(windows_.begin(), windows_.end(), [&](const auto& each) { return each->form() == &form; });
     std::shared_ptr<FormView> window;
@@ -18,7 +21,7 @@ void WindowDesktop::Show(Form& form, Modality modality) {
     window->Show();
     if (modality == Modality::Modal) {
         {
-            const Modal modal(*this, &form);
+            const Modal modal(*this, form);
             waitFor(*window);
         }
         forEachSurface(&SurfaceView::inputUnblocked);
@@ -44,29 +47,18 @@ void WindowDesktop::MousePointer(Form& form, Pointer pointer) {
     }
 }
 
-void WindowDesktop::MsgBox(const std::string& text, const std::string& caption) {
-    forEachSurface(&SurfaceView::showNow);
-    std::string lines = text;
-    std::erase(lines, '\r');
-    {
-        const Modal modal(*this);
-        showBox(lines, caption);
-    }
-    forEachSurface(&SurfaceView::inputUnblocked);
-}
-
 void WindowDesktop::changed(Control& control) {
     if (const FormView* window = windowOf(control.container().form())) {
         window->changed(control);
     }
 }
 
-SurfaceView* WindowDesktop::surface(int element) const {
-    SurfaceView* found = nullptr;
-    for (const auto& window : windows_) {
-        found = found != nullptr ? found : window->surface(element);
-    }
-    return found;
+TextExtent WindowDesktop::measure(const std::string& text, const Font& font, std::optional<float> width) {
+    const FormView* front = inFront();
+    const Layout layout{.scale = front != nullptr ? front->scale() : 1};
+    const auto widest = width ? std::optional(layout.pixels({0, 0, *width, 0}).width()) : std::nullopt;
+    const TextSize size = measure_(text, {.points = font.points * layout.scale, .bold = font.bold}, widest);
+    return {.Width = layout.twips(size.width), .Height = layout.twips(size.height)};
 }
 
 FormView* WindowDesktop::windowOf(const Form& form) const {

@@ -2,6 +2,7 @@
 
 #include "game/frmAbout.h"
 #include "platform/qt/Buttons.h"
+#include "platform/qt/CaptionedFrame.h"
 
 #include <QFontDatabase>
 #include <QImage>

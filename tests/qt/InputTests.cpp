@@ -192,6 +192,20 @@ TEST_F(Inputs, APenIsAMouse) {
     EXPECT_EQ(heardSince(), "down 2 up 2 ");
 }
 
+TEST(HeldKeysTest, AHeldKeyActsOnce) {
+    constexpr int space = 32;
+    constexpr int other = 33;
+    HeldKeys held;
+    EXPECT_FALSE(held.repeats(space, 10, false));
+    EXPECT_TRUE(held.repeats(space, 20, true));
+    held.released(space, 30);
+    EXPECT_TRUE(held.repeats(space, 30, false));
+    EXPECT_FALSE(held.repeats(other, 30, false));
+    EXPECT_FALSE(held.repeats(space, 31, false));
+    held.released(space, 0); // while a screen reader listens
+    EXPECT_FALSE(held.repeats(space, 0, false));
+}
+
 } // namespace
 
 } // namespace tumble

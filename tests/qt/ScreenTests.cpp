@@ -1,11 +1,12 @@
 #include "Windows.h"
 
+#include "platform/forms/MessageBox.h"
+
 #include <QAbstractButton>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLayout>
-#include <QMessageBox>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
@@ -81,8 +82,8 @@ protected:
         return dialog;
     }
 
-    void refuse() {
-        desktop.MsgBox("You must play either a Queen of Diamonds or a King of Diamonds or a Joker", "Invalid Move!");
+    static void refuse() {
+        MsgBox("You must play either a Queen of Diamonds or a King of Diamonds or a Joker", "Invalid Move!");
     }
 
     static QWidget* play(QWidget* dialog) {
@@ -112,15 +113,14 @@ TEST_P(EachScreen, HoldsWhatOpensThere) {
                 EXPECT_NEAR(scaleOf(about), scale, 0.01);
                 expectInMiddle(about, screen->geometry());
             });
-    inModal([this] { refuse(); }, Qt::Key_Return,
+    inModal([] { refuse(); }, Qt::Key_Return,
             [&](const QWidget* message) {
-                const auto* box = qobject_cast<const QMessageBox*>(message);
-                EXPECT_EQ(box->windowHandle()->transientParent(), table->windowHandle());
-                EXPECT_EQ(box->icon(), QMessageBox::NoIcon);
-                EXPECT_EQ(box->buttons().size(), 1);
-                EXPECT_TRUE(screen->geometry().contains(box->frameGeometry()));
+                EXPECT_EQ(message->windowHandle()->transientParent(), table->windowHandle());
+                EXPECT_NEAR(scaleOf(message), scale, 0.01);
+                EXPECT_EQ(message->findChildren<QAbstractButton*>().size(), 1);
+                EXPECT_TRUE(screen->geometry().contains(message->frameGeometry()));
                 if (scale > 0.75) {
-                    expectInMiddle(box, table->frameGeometry());
+                    expectInMiddle(message, table->frameGeometry());
                 }
             });
 }
@@ -139,12 +139,11 @@ TEST_F(Screens, ShowTheNextWindowAsTheOneBefore) {
     QWidget* table = play(dialog);
     EXPECT_EQ(table->windowState(), Qt::WindowMaximized);
     EXPECT_EQ(table->frameGeometry(), screen->geometry());
-    inModal([this] { desktop.MsgBox("text"); }, Qt::Key_Escape,
-            [&](const QWidget* box) {
-                EXPECT_NEAR(box->font().pointSizeF(), QApplication::font().pointSizeF() * scaleOf(table), 0.01);
-            });
-    inModal([this] { refuse(); }, Qt::Key_Escape,
-            [&](const QWidget* box) { EXPECT_LE(box->layout()->totalMinimumSize().width(), box->width()); });
+    for (const auto& say : {std::function<void()>([] { MsgBox("text"); }), std::function<void()>(refuse)}) {
+        inModal(say, Qt::Key_Escape, [&](const QWidget* box) {
+            EXPECT_NEAR(box->findChild<QLabel*>()->font().pointSizeF(), 9 * scaleOf(table), 0.1) << "as wide as needed";
+        });
+    }
     f11(table);
     EXPECT_TRUE(table->isFullScreen());
     EXPECT_EQ(table->geometry(), screen->geometry());
@@ -214,7 +213,7 @@ TEST_F(Windows, AMessageBelongsToTheWindowShownLastOfThoseThatShow) {
     Form first("first", 3000, 1500);
     Form second("second", 3000, 1500);
     const auto expectMessageOver = [&](const char* title) {
-        inModal([&] { desktop.MsgBox("text"); }, Qt::Key_Return,
+        inModal([&] { MsgBox("text"); }, Qt::Key_Return,
                 [&](const QWidget* box) { EXPECT_EQ(box->windowHandle()->transientParent()->title(), title); });
     };
     first.Show();
@@ -237,6 +236,22 @@ TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
     QTimer::singleShot(0, qApp, [&] { mainMod.table().cmdExit.Click(); });
     desktop.run(); // which the exit ends, and no loop of a later test
     EXPECT_EQ(window("Tumble"), nullptr);
+}
+
+TEST(WorkAreaTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
+    using Case = std::tuple<PixelSize, double, double>;
+    for (const auto& [screen, ratio, scale] :
+         {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
+          Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
+          Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
+        const WorkArea area({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
+        EXPECT_NEAR(area.openingScale(FormSize(9525, 6630)), scale, 1e-9) << screen.width;
+        EXPECT_NEAR(area.leastScale(FormSize(9525, 6630)), std::min(scale, 1.0), 1e-9) << screen.width;
+    }
+    const WorkArea area({0, 0, 799, 559}, {800, 600}, 1, {});
+    EXPECT_EQ(area.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
+    EXPECT_EQ(area.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
+    EXPECT_EQ(area.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
 }
 
 } // namespace

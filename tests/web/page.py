@@ -218,7 +218,7 @@ class Page(Player):
     def box(self):
         """Title and text of the dialog that is open."""
         return self.ask("""[...document.querySelectorAll('dialog')].flatMap(dialog =>
-            [dialog.ariaLabel, ...[...dialog.querySelectorAll(':scope > span')].map(text => text.innerText)])""")
+            [dialog.ariaLabel, ...[...dialog.querySelectorAll('[data-name=lblText]')].map(text => text.innerText)])""")
 
     def focus(self):
         return self.ask("(e => e.dataset.name ?? e.parentElement.dataset.name ?? e.innerText)(document.activeElement)")

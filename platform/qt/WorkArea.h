@@ -4,9 +4,11 @@
 
 #include <optional>
 
+class QScreen;
+
 namespace tumble {
 
-/// The frame that the windowing system puts around a window.
+/// The widths of the frame that the windowing system puts around a window.
 struct WindowFrame {
     int left = 0;
     int top = 0;
@@ -14,24 +16,26 @@ struct WindowFrame {
     int bottom = 0;
 };
 
-/// The room that a screen has for windows: without its panels, and without the frame of a window.
+/// The part of a screen that a window's content may have: without the screen's panels and the window's frame, in
+/// logical pixels.
 class WorkArea {
 public:
-    /// `available`: what the panels of the screen, which is `whole` in size, leave. Without a frame it reckons with a
+    /// `available` is what the panels leave of a screen of the `whole` size. A frame that is not known yet counts as a
     /// usual one.
     WorkArea(const PixelRect& available, PixelSize whole, double ratio, const std::optional<WindowFrame>& frame);
+    WorkArea(const QScreen& screen, const std::optional<WindowFrame>& frame);
 
     /// The place for the content of the largest window.
     const PixelRect& area() const { return area_; }
     /// The largest scale at which a form fits.
     double largestScale(const FormSize& form) const;
-    /// The scale below which a form need not be shown: 1, or on a small screen what it can hold.
+    /// The least scale that a window can be given: 1, or less on a screen that is too small for that.
     double leastScale(const FormSize& form) const;
     /// The scale at which a form opens: the largest in steps of an eighth at which it takes no more than four fifths of
     /// the screen, if that is more than the least.
     double openingScale(const FormSize& form) const;
-    /// The place for a content of that size, in the middle of another as far as the room allows; one that is too large
-    /// begins where the room does.
+    /// The place for a content of that size in the middle of another place, moved into the area. One that is too large
+    /// begins where the area does.
     PixelRect place(PixelSize content, const PixelRect& around) const;
 
 private:

@@ -1,4 +1,8 @@
-#include "platform/window/WorkArea.h"
+#include "platform/qt/WorkArea.h"
+
+#include "platform/qt/Geometry.h"
+
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -18,16 +22,19 @@ PixelRect without(const PixelRect& rect, const WindowFrame& frame) {
             .bottom = rect.bottom - frame.bottom};
 }
 
-/// Where a length begins in the middle of another, as far as the room allows.
-int begin(int length, int first, int last, int roomFirst, int roomLast) {
+/// Where a length begins in the middle of another, as far as the area allows.
+int begin(int length, int first, int last, int areaFirst, int areaLast) {
     const int middle = (first + last) / 2 - (length - 1) / 2;
-    return std::max(std::min(middle, roomLast - length + 1), roomFirst);
+    return std::max(std::min(middle, areaLast - length + 1), areaFirst);
 }
 
 } // namespace
 
 WorkArea::WorkArea(const PixelRect& available, PixelSize whole, double ratio, const std::optional<WindowFrame>& frame)
     : area_(without(available, frame.value_or(usualFrame))), whole_(whole), ratio_(ratio) {}
+
+WorkArea::WorkArea(const QScreen& screen, const std::optional<WindowFrame>& frame)
+    : WorkArea(toPixelRect(screen.availableGeometry()), toPixelSize(screen.size()), screen.devicePixelRatio(), frame) {}
 
 double WorkArea::largestScale(const FormSize& form) const {
     return showable(form.scaleToFit(area_.width(), area_.height()), ratio_);
@@ -46,7 +53,7 @@ double WorkArea::openingScale(const FormSize& form) const {
 PixelRect WorkArea::place(PixelSize content, const PixelRect& around) const {
     const int left = begin(content.width, around.left, around.right, area_.left, area_.right);
     const int top = begin(content.height, around.top, around.bottom, area_.top, area_.bottom);
-    return {.left = left, .top = top, .right = left + content.width - 1, .bottom = top + content.height - 1};
+    return content.at({left, top});
 }
 
 } // namespace tumble

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QGroupBox>
+
+namespace tumble {
+
+/// A group box whose caption interrupts its upper line; the whole box below is its controls'.
+class CaptionedFrame : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+    /// In logical pixels; the upper line runs through the caption's middle.
+    void captionHeight(int height) { captionHeight_ = height; }
+
+    /// The place of the caption in the frame.
+    QRect captionArea() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int captionHeight_ = 0;
+};
+
+} // namespace tumble
