@@ -51,17 +51,18 @@ TEST(ScreenRoomTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
          {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
           Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
           Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
-        const WorkArea room({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
-        EXPECT_NEAR(room.openingScale(tableSize), scale, 1e-9) << screen.width;
-        EXPECT_NEAR(room.leastScale(tableSize), std::min(scale, 1.0), 1e-9) << screen.width;
+        const WorkArea area({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
+        EXPECT_NEAR(area.openingScale(tableSize), scale, 1e-9) << screen.width;
+        EXPECT_NEAR(area.leastScale(tableSize), std::min(scale, 1.0), 1e-9) << screen.width;
     }
-    const WorkArea room({0, 0, 799, 559}, {800, 600}, 1, {});
-    EXPECT_EQ(room.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
-    EXPECT_EQ(room.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
-    EXPECT_EQ(room.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
+    const WorkArea area({0, 0, 799, 559}, {800, 600}, 1, {});
+    EXPECT_EQ(area.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
+    EXPECT_EQ(area.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
+    EXPECT_EQ(area.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
 }
 
-/// A made-up font: a letter is as many pixels wide as the font has points, a line twice as high, broken anywhere.
+/// A font of the test's own: each letter is as wide in pixels as the font's points, each line twice as high. Lines
+/// break anywhere.
 TextSize measureLetters(const std::string& text, const CaptionFont& font, std::optional<int> width) {
     const double inOneLine = static_cast<double>(text.size()) * font.points * font.stretch / 100;
     const double most = width.value_or(1000);
@@ -72,9 +73,9 @@ TextSize measureLetters(const std::string& text, const CaptionFont& font, std::o
 
 class CaptionsTest : public testing::Test {
 protected:
-    void add(const auto& control, PixelSize room) {
+    void add(const auto& control, PixelSize size) {
         captions.add(
-            control, captionStyle(control), [room] { return room; },
+            control, captionStyle(control), [size] { return size; },
             [this, &control](const CaptionFont& font) {
                 fonts << control.Name() << " " << font.points << (font.bold ? " bold " : " ") << font.stretch << "%; ";
             });
@@ -92,16 +93,16 @@ TEST_F(CaptionsTest, HaveTheFontAskedForOrTheLargestThatFits) {
     const Label high(form, "high", "ninechars", {0, 0, 900, 600}, 0, {.points = 10});
     const OptionButton option(form, "option", "ninechars", {}, 0, {});
     using Case = std::tuple<double, PixelSize, std::string>;
-    for (const auto& [scale, room, expected] : {Case{1, {75, 60}, "low 8.25 100%; high 10 100%; option 8.25 100%; "},
+    for (const auto& [scale, size, expected] : {Case{1, {75, 60}, "low 8.25 100%; high 10 100%; option 8.25 100%; "},
                                                 Case{1, {74, 16}, "low 8 100%; high 8 100%; option 8 100%; "},
                                                 Case{1, {44, 60}, "low 6.5 75%; high 10 100%; option 8.25 100%; "},
                                                 Case{1, {35, 60}, "low 6.5 65%; high 10 100%; option 7.75 100%; "},
                                                 Case{2, {1, 1}, "low 13 65%; high 13 65%; option 13 65%; "}}) {
         captions.clear();
         fonts.str({});
-        add(low, room);
-        add(high, room);
-        add(option, room);
+        add(low, size);
+        add(high, size);
+        add(option, size);
         captions.fit(scale);
         EXPECT_EQ(fonts.str(), expected);
     }
