@@ -31,7 +31,7 @@ public:
     void addPileCard(float X, float Y, CardSize size, std::shared_ptr<Pile> pack, PileAlign xAlign = paNear,
                      PileAlign yAlign = paNear);
 
-    /// Makes the topmost card at (X, Y) the current card and returns it; where there is none, no card is current.
+    /// Makes the topmost card at (X, Y) the current card and returns it; empty, and none current, without one.
     std::shared_ptr<Card> identifyCard(float X, float Y);
 
     // These change the current card; without one they do nothing.
