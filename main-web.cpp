@@ -4,7 +4,7 @@
 
 #include <emscripten.h>
 
-/// The page calls it once. It returns; both objects last as long as the page.
+/// Called once by the page. Returns at once; both objects live as long as the page.
 extern "C" EMSCRIPTEN_KEEPALIVE void page_start() {
     static tumble::WebDesktop desktop(tumble::application(), [](const auto& picture, auto& canvas) {
         return tumble::drawPicture(picture.Key, canvas);

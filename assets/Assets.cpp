@@ -2,10 +2,9 @@
 
 #include <cstdint>
 
-// The files lie one behind the other in the order of the set, the icon last; entry n of the offsets is where file n
-// begins, and the last entry where the icon ends (see embed.S).
+// The 57 card pictures in the order of the set, then the icon (see embed.S). File n is at offsets n to n + 1.
 extern "C" {
-extern const std::byte tumble_assets[];            // NOLINT(modernize-avoid-c-arrays): the assembler knows no other
+extern const std::byte tumble_assets[];            // NOLINT(modernize-avoid-c-arrays): an assembler symbol
 extern const std::uint32_t tumble_asset_offsets[]; // NOLINT(modernize-avoid-c-arrays)
 }
 

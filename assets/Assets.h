@@ -5,10 +5,10 @@
 
 namespace tumble::Assets {
 
-/// The encoded card picture at a position of the set, 0 to 56; nothing for any other.
+/// The GIF file of the card picture at a position of the set, 0 to 56; empty for any other position.
 std::span<const std::byte> cardPicture(std::size_t position);
 
-/// The encoded icon.
+/// The GIF file of the icon.
 std::span<const std::byte> icon();
 
 } // namespace tumble::Assets

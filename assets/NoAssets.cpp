@@ -1,6 +1,6 @@
 #include "assets/Assets.h"
 
-// For a program that draws all its pictures and has no room for others.
+// The web page draws all its pictures, and embedded ones would only make it larger.
 
 namespace tumble::Assets {
 

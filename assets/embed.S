@@ -1,6 +1,6 @@
-/* The card pictures and the icon, as they stand in their files, in the order of the set. */
+/* The card pictures in the order of the set, then the icon; and the offset of each file and of the end. */
 
-/* How each system's object files name read-only sections, and symbols that stay inside the program. */
+/* The names of read-only sections, and of symbols not exported, in each system's object files. */
 #if defined(__APPLE__)
 #define FILES .section __TEXT,__assets
 #define OFFSETS .section __TEXT,__asset_offsets

@@ -5,8 +5,11 @@
 #include "platform/forms/MessageBox.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace tumble {
@@ -19,44 +22,29 @@ constexpr Colour red = 0x0000FF;
 constexpr Colour darkGrey = 0x666666;
 constexpr Colour darkerGrey = 0x333333;
 
-constexpr float edgeStep = 5;     // twips by which each card of a pile sets off its edge
+constexpr float edgeStep = 5;     // twips of a pile's edge that each of its cards adds
 constexpr float markRadius = 100; // twips
 
-std::int32_t wholeTwips(double edge) {
-    constexpr double least = std::numeric_limits<std::int32_t>::min();
-    constexpr double most = std::numeric_limits<std::int32_t>::max();
-    return std::isnan(edge) ? 0 : static_cast<std::int32_t>(std::clamp(std::nearbyint(edge), least, most));
-}
+// Width and height in twips, in the order of `CardSize`.
+constexpr std::array<std::pair<std::int16_t, std::int16_t>, 3> extents{{{729, 1134}, {900, 1400}, {1233, 1918}}};
 
 float nearEdge(float place, std::int16_t extent, PileAlign align) {
     switch (align) {
     case paNear:
         return place;
     case paCenter:
-        return place - static_cast<float>(extent) / 2;
+        return place - extent / 2.0F;
     default:
-        return place - static_cast<float>(extent) + 1;
+        return place - extent + 1;
     }
 }
 
 } // namespace
 
-// In double precision, where the sum is exact, so that it is rounded once.
-std::int32_t Card::x1() const {
-    return wholeTwips(xPos_);
-}
-std::int32_t Card::y1() const {
-    return wholeTwips(yPos_);
-}
-std::int32_t Card::x2() const {
-    return wholeTwips(static_cast<double>(xPos_) + cardWidth_ - 1);
-}
-std::int32_t Card::y2() const {
-    return wholeTwips(static_cast<double>(yPos_) + cardHeight_ - 1);
-}
-
-void Card::pack(std::shared_ptr<Pile> pck) {
-    pack_ = std::move(pck);
+std::int32_t Card::wholeTwips(double edge) {
+    constexpr double least = std::numeric_limits<std::int32_t>::min();
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    return std::isnan(edge) ? 0 : static_cast<std::int32_t>(std::clamp(std::nearbyint(edge), least, most));
 }
 
 void Card::setAttributes(DrawingSurface* picture, CardSize size, FaceDirection faceDir, CardVisibility visibility,
@@ -66,21 +54,9 @@ void Card::setAttributes(DrawingSurface* picture, CardSize size, FaceDirection f
     faceDir_ = faceDir;
     visible_ = visibility;
     backStyle_ = backStyle;
-    const auto setSize = [this](std::int16_t width, std::int16_t height) {
-        cardWidth_ = width;
-        cardHeight_ = height;
-    };
-    switch (size) {
-    case csSmall:
-        setSize(729, 1134);
-        break;
-    case csMedium:
-        setSize(900, 1400);
-        break;
-    case csNormal:
-        setSize(1233, 1918);
-        break;
-    default:
+    if (size >= csSmall && size <= csNormal) {
+        std::tie(cardWidth_, cardHeight_) = extents.at(static_cast<std::size_t>(size));
+    } else {
         MsgBox("Invalid card size!");
     }
     backImage_ = &CardImages::find("CardBack" + std::to_string(backStyle));
@@ -92,10 +68,7 @@ void Card::setPosition(float X, float Y, PileAlign xAlign, PileAlign yAlign) {
 }
 
 Rect Card::rectangle() const {
-    return {.left = xPos_,
-            .top = yPos_,
-            .right = static_cast<float>(cardWidth_) + xPos_ - 1,
-            .bottom = static_cast<float>(cardHeight_) + yPos_ - 1};
+    return {xPos_, yPos_, xPos_ + cardWidth_ - 1, yPos_ + cardHeight_ - 1};
 }
 
 void Card::draw() const {
@@ -136,8 +109,8 @@ void Card::drawEmptyPile() const {
     painter.Line({place.right, place.top}, {place.left, place.bottom}, black);
 }
 
-// Each step draws the right and bottom edges of a card's outline and, in the background colour, cuts away what sticks
-// out above and to the left of it; at last the corners of the top card's border go that lie outside the steps.
+// Each step draws the right and bottom edges of one card's outline. Background colour clears the space above the right
+// edge and to the left of the bottom edge, and at last the corners of the top card's border outside the steps.
 void Card::drawPileEdge(int cards) const {
     const auto [L, T, R, B] = rectangle();
     ItemPainter painter = surface_->Paint(rectangle());
@@ -163,10 +136,8 @@ void Card::drawOutline(Colour col, bool partial) const {
     ItemPainter painter = surface_->Paint(place);
     painter.Line(place, col, BoxFill::Filled);
     if (partial) {
-        const Point middle{place.left + static_cast<float>(cardWidth_) / 2,
-                           place.top + static_cast<float>(cardHeight_) / 2};
         painter.Line(place, black, BoxFill::Outline);
-        painter.Circle(middle, markRadius, red);
+        painter.Circle({xPos_ + cardWidth_ / 2.0F, yPos_ + cardHeight_ / 2.0F}, markRadius, red);
     }
 }
 
@@ -174,14 +145,6 @@ void Card::undraw() const {
     if (hasPlace()) {
         surface_->Paint(rectangle()).Line(rectangle(), surface_->BackColor(), BoxFill::Filled);
     }
-}
-
-std::string Card::getRankStr() const {
-    return CardConstants::rankName(rank_);
-}
-
-std::string Card::getSuitStr() const {
-    return CardConstants::suitName(suit_);
 }
 
 std::string Card::getStr() const {

@@ -6,60 +6,63 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace tumble {
 
 class Pile;
 
-/// A playing card, a joker, or the pile card that stands on the table for a whole pack. It knows where it lies and
-/// paints itself there, at once, whatever lies around it. The rectangle it covers, in twips, includes all its edges.
+/// A playing card, a joker, or the pile card that represents a whole pack on the table. A card knows its place and
+/// paints itself there at once, whatever lies around it. Its rectangle, in twips, includes all four edges.
 class Card {
 public:
-    // The edges, rounded to the nearest whole twip, halves to even; a new card has no area.
-    std::int32_t x1() const;
-    std::int32_t y1() const;
-    std::int32_t x2() const;
-    std::int32_t y2() const;
+    // The edges, each rounded once from the exact sum to the nearest whole twip, halves to even. A new card has no
+    // area.
+    std::int32_t x1() const { return wholeTwips(xPos_); }
+    std::int32_t y1() const { return wholeTwips(yPos_); }
+    std::int32_t x2() const { return wholeTwips(static_cast<double>(xPos_) + cardWidth_ - 1); }
+    std::int32_t y2() const { return wholeTwips(static_cast<double>(yPos_) + cardHeight_ - 1); }
 
     CardVisibility visible() const { return visible_; }
     bool joker() const { return joker_; }
-    /// The size last given, even one outside the set.
+    /// The size last set, even one outside the set of sizes.
     CardSize size() const { return size_; }
     BackStyle backStyle() const { return backStyle_; }
     CardRank rank() const { return rank_; }
     CardSuit suit() const { return suit_; }
 
     void visibility(CardVisibility visible) { visible_ = visible; }
-    /// What a pile card stands for; empty on every other card.
+    /// The pack that a pile card represents; empty on every other card.
     const std::shared_ptr<Pile>& pack() const { return pack_; }
-    void pack(std::shared_ptr<Pile> pck);
+    void pack(std::shared_ptr<Pile> pck) { pack_ = std::move(pck); }
 
     /// `picture` is the surface to paint on; it is not owned and outlives the card's paintings. A size outside the set
-    /// is reported to the player and leaves width and height as they were.
+    /// is reported to the player and changes neither width nor height.
     void setAttributes(DrawingSurface* picture, CardSize size, FaceDirection faceDir, CardVisibility visibility,
                        BackStyle backStyle);
-    /// Needs the size that `setAttributes` gives. Draws nothing.
+    /// Uses the size that `setAttributes` has set. Draws nothing.
     void setPosition(float X, float Y, PileAlign xAlign, PileAlign yAlign);
 
     // A card without a surface paints nothing.
-    /// Paints the card as it should look; a pile card paints its pack, whose top card moves to the pile's place.
+    /// Paints the card. A pile card paints its pack, whose top card moves to the pile's place.
     void draw() const;
-    /// Paints a block of the colour in the card's place; partial: with a black border and a red circle in the middle.
+    /// Fills the card's rectangle with the colour. `partial` adds a black border and a red circle in the middle.
     void drawOutline(Colour col, bool partial) const;
-    /// Paints the card's place in the surface's background colour.
+    /// Fills the card's rectangle with the surface's background colour.
     void undraw() const;
 
-    std::string getRankStr() const;
-    std::string getSuitStr() const;
-    /// The name shown to the player, whichever way up the card lies: "Five of Hearts", "Joker", "Pile (empty)".
+    std::string getRankStr() const { return CardConstants::rankName(rank_); }
+    std::string getSuitStr() const { return CardConstants::suitName(suit_); }
+    /// The name shown to the player, the same face up and face down: "Five of Hearts", "Joker", "Pile (empty)".
     std::string getStr() const;
 
     void setAsJoker();
     void setRankAndSuit(CardRank rank, CardSuit suit);
-    /// Turns the card over; draws nothing.
+    /// Turns the card over. Draws nothing.
     void flip();
 
 private:
+    static std::int32_t wholeTwips(double edge);
     Rect rectangle() const;
     bool hasPlace() const { return surface_ != nullptr && (visible_ == vsCard || visible_ == vsPile); }
     void drawCard() const;

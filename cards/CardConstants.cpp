@@ -17,27 +17,19 @@ std::string suitName(CardSuit suit) {
 }
 
 std::optional<DeckMakeUp> deckMakeUp(DeckType dckType) {
-    switch (dckType) {
-    case dtEmpty:
-        return DeckMakeUp();
-    case dtStandard:
-        return DeckMakeUp{.copies = 1, .lowestRank = rkTwo, .jokers = 0};
-    case dtStandardWithJokers:
-        return DeckMakeUp{.copies = 1, .lowestRank = rkTwo, .jokers = 2};
-    case dt36Card:
-        return DeckMakeUp{.copies = 1, .lowestRank = rkSix, .jokers = 0};
-    case dt32Card:
-        return DeckMakeUp{.copies = 1, .lowestRank = rkSeven, .jokers = 0};
-    case dt24Card:
-        return DeckMakeUp{.copies = 1, .lowestRank = rkNine, .jokers = 0};
-    case dtDouble:
-        return DeckMakeUp{.copies = 2, .lowestRank = rkTwo, .jokers = 0};
-    case dtPinochle:
-        return DeckMakeUp{.copies = 2, .lowestRank = rkNine, .jokers = 0};
-    case dtBigPinochle:
-        return DeckMakeUp{.copies = 2, .lowestRank = rkSeven, .jokers = 0};
-    }
-    return std::nullopt;
+    static constexpr std::array<DeckMakeUp, 9> decks{{
+        {},                                                // dtEmpty
+        {.copies = 1, .lowestRank = rkTwo, .jokers = 0},   // dtStandard
+        {.copies = 1, .lowestRank = rkTwo, .jokers = 2},   // dtStandardWithJokers
+        {.copies = 1, .lowestRank = rkSix, .jokers = 0},   // dt36Card
+        {.copies = 1, .lowestRank = rkSeven, .jokers = 0}, // dt32Card
+        {.copies = 1, .lowestRank = rkNine, .jokers = 0},  // dt24Card
+        {.copies = 2, .lowestRank = rkTwo, .jokers = 0},   // dtDouble
+        {.copies = 2, .lowestRank = rkNine, .jokers = 0},  // dtPinochle
+        {.copies = 2, .lowestRank = rkSeven, .jokers = 0}, // dtBigPinochle
+    }};
+    const bool known = dckType >= dtEmpty && dckType <= dtBigPinochle;
+    return known ? std::optional(decks.at(static_cast<std::size_t>(dckType))) : std::nullopt;
 }
 
 } // namespace tumble::CardConstants

@@ -14,10 +14,7 @@ namespace {
 
 std::vector<Picture> makeSet() {
     std::vector<Picture> set;
-    const auto add = [&](std::string key) {
-        const auto bytes = Assets::cardPicture(set.size());
-        set.emplace_back(std::move(key), bytes);
-    };
+    const auto add = [&](std::string key) { set.emplace_back(std::move(key), Assets::cardPicture(set.size())); };
     constexpr std::array ranks{rkAce,   rkTwo,  rkThree, rkFour, rkFive,  rkSix, rkSeven,
                                rkEight, rkNine, rkTen,   rkJack, rkQueen, rkKing};
     constexpr std::array suits{suClub, suDiamond, suHeart, suSpade};

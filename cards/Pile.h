@@ -15,25 +15,25 @@ class PileAccepter : private NonMovable {
 public:
     virtual ~PileAccepter() = default;
 
-    /// `pileCard` stands for the pile on the table, `crd` is the card dropped on it. A refusal has been explained to
-    /// the player when the call returns.
+    /// `pileCard` represents the pile on the table; `crd` is the card dropped on it. When the call returns, a refusal
+    /// has been explained to the player.
     virtual bool acceptCard(const Card& pileCard, const Card& crd) = 0;
 };
 
-/// A stack of cards as its pile card and the drag see it.
+/// A stack of cards, as its pile card and a drag need it.
 class Pile : private NonMovable {
 public:
     virtual ~Pile() = default;
 
-    /// The top card, left where it is; empty when there is none.
+    /// The top card, which stays in the pile; empty when there is none.
     virtual std::shared_ptr<Card> seeTopCard() const = 0;
-    /// Takes the top card off and returns it; empty when there is none.
+    /// Removes the top card and returns it; empty when there is none.
     virtual std::shared_ptr<Card> takeTopCard() = 0;
     virtual void addCardToTop(std::shared_ptr<Card> crd) = 0;
     virtual std::int16_t numCards() const = 0;
-    /// Empty when the pile takes any card.
+    /// Empty when the pile accepts any card.
     virtual std::shared_ptr<PileAccepter> accepter() const = 0;
-    /// All its cards, the bottom one first.
+    /// All cards, the bottom one first.
     virtual const std::vector<std::shared_ptr<Card>>& cards() const = 0;
 };
 

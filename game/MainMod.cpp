@@ -10,7 +10,7 @@ namespace {
 
 constexpr float spreadLeft = 1300; // twips, as all below
 constexpr float spreadTop = 1000;
-// Right of and below the piles in the far corners, and right of the spread.
+// To the right of the spread and the right piles, and below the lower piles.
 constexpr float pileMargin = CardTracker::margin;
 
 } // namespace

@@ -10,19 +10,19 @@
 
 namespace tumble {
 
-/// The program, as it names itself to the player.
+/// The program's name, version, icon and size.
 Application application();
 
-/// Startup, set-up and shared state of the one game that a run plays.
+/// Startup, set-up and shared state of the game. A run plays one game.
 class MainMod {
 public:
     MainMod();
 
-    /// Shows the options dialog and returns; the program then lives on its windows' events.
+    /// Shows the options dialog and returns; events drive the rest.
     void Main();
 
-    /// Closes the options dialog, opens the table and lays out the game. `lsSpread` deals the cards over the table, any
-    /// other layout lays them as one pile. Values outside their sets are reported by those who use them.
+    /// Closes the options dialog, opens the table and lays out the game. `lsSpread` deals the cards over the table; any
+    /// other layout lays them as one pile. A card size, order or deck outside its set is reported to the player.
     void startGame(CardSize size, BackStyle backStyle, FaceDirection faceDir, DeckType dckType, SortOrder sortOrder,
                    LayoutStyle inPile);
 

@@ -4,7 +4,7 @@
 
 namespace tumble {
 
-/// The small modal window that names the application and its version.
+/// The modal window that shows the application's name and version.
 class frmAbout : public Form {
 public:
     frmAbout();

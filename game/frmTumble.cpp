@@ -16,10 +16,7 @@ constexpr std::int16_t rightButton = 2;
 
 frmTumble::frmTumble(const std::unique_ptr<CardTracker>& tableTracker)
     : Form("Tumble", clientWidth, clientHeight), tableTracker_(tableTracker) {
-    picTable.dragBounds = {.left = 0,
-                           .top = 0,
-                           .right = picTable.Width() - CardTracker::margin,
-                           .bottom = picTable.Height() - CardTracker::margin};
+    picTable.dragBounds = {0, 0, picTable.Width() - CardTracker::margin, picTable.Height() - CardTracker::margin};
     picTable.MouseDown = [this](auto... event) { picTable_MouseDown(event...); };
     picTable.MouseMove = [this](auto... event) { picTable_MouseMove(event...); };
     picTable.MouseUp = [this](auto... event) { picTable_MouseUp(event...); };

@@ -8,13 +8,13 @@
 
 namespace tumble {
 
-/// The window in which the game is played: the table, the label that names the card under the mouse, and three buttons.
+/// The table window: the table, the label with the name of the card under the mouse, and three buttons.
 class frmTumble : public Form {
 public:
     static constexpr float clientWidth = 9525; // twips
     static constexpr float clientHeight = 6630;
 
-    /// `tableTracker` is the game's one tracker, made after the window shows and before it takes input.
+    /// Keeps the reference. The game's one tracker is created after the window shows and before it takes input.
     explicit frmTumble(const std::unique_ptr<CardTracker>& tableTracker);
 
     void Form_Close() override { cmdExit_Click(); }

@@ -1,4 +1,4 @@
-# Rewrites CHANGELOG.md as the changelog of a Debian package: awk -v package=NAME -v maintainer="NAME <ADDRESS>"
+# Converts CHANGELOG.md to a Debian changelog: awk -v package=NAME -v maintainer="NAME <ADDRESS>"
 function sign(   command, stamp) {
     command = "LC_ALL=C date -uRd " date
     command | getline stamp

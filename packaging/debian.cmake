@@ -1,4 +1,4 @@
-# Makes of the staged installation what Debian's policy asks for; other packages take it as it is.
+# Changes the staged installation to follow Debian's policy. Other packages need no change.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
   return()
 endif()
@@ -19,5 +19,5 @@ execute_process(
   COMMAND strip --strip-unneeded --remove-section=.comment --remove-section=.note ${usr}/games/tumble
   COMMAND_ERROR_IS_FATAL ANY)
 
-# Whatever the umask of who builds it.
+# File modes that do not depend on the builder's umask.
 execute_process(COMMAND chmod -R u=rwX,go=rX ${usr} COMMAND_ERROR_IS_FATAL ANY)

@@ -22,10 +22,6 @@ constexpr float rowStep = 1000; // twips from row to row
 
 } // namespace
 
-void CardPack::accepter(std::shared_ptr<PileAccepter> accept) {
-    accepter_ = std::move(accept);
-}
-
 void CardPack::init(CardSize size, FaceDirection faceDir, BackStyle backStyle, DeckType dckType) {
     const auto deck = CardConstants::deckMakeUp(dckType);
     if (!deck) {
@@ -71,10 +67,10 @@ void CardPack::dealToTable(float x1, float y1, float x2) {
 void CardPack::sort(SortOrder sortOrder) {
     switch (sortOrder) {
     case soNatural:
-        return;
+        break;
     case soShuffled:
         shuffle();
-        return;
+        break;
     case soRankSuitAsc:
     case soRankSuitDesc:
         Sorter::sortCards(cards_, OrderRankSuit());
@@ -85,15 +81,14 @@ void CardPack::sort(SortOrder sortOrder) {
         break;
     default:
         MsgBox("Invalid pack sorting order!");
-        return;
     }
     if (sortOrder == soRankSuitDesc || sortOrder == soSuitRankDesc) {
         reverse();
     }
 }
 
-// Swaps ten times as many pairs as there are cards. A random value times the largest 32-bit integer, divided by that
-// integer's share for each card, gives a position; the few values past the last full share are drawn again.
+// Swaps ten pairs for each card. The range up to the largest 32-bit integer is cut into equal shares, one for each
+// position. A pair with a value past the last share is drawn again.
 void CardPack::shuffle() {
     const auto n = static_cast<std::int32_t>(cards_.size());
     if (n < 1) {
@@ -120,30 +115,12 @@ void CardPack::placeAsPile(float X, float Y, PileAlign xAlign, PileAlign yAlign)
     tracker_->addPileCard(X, Y, cardSize_, shared_from_this(), xAlign, yAlign);
 }
 
-std::shared_ptr<Card> CardPack::seeTopCard() const {
-    return cards_.empty() ? nullptr : cards_.back();
-}
-
 std::shared_ptr<Card> CardPack::takeTopCard() {
     auto top = seeTopCard();
     if (top != nullptr) {
         cards_.pop_back();
     }
     return top;
-}
-
-void CardPack::addCardToTop(std::shared_ptr<Card> crd) {
-    cards_.push_back(std::move(crd));
-}
-
-void CardPack::appendJoker() {
-    cards_.push_back(std::make_shared<Card>());
-    cards_.back()->setAsJoker();
-}
-
-void CardPack::appendCard(CardRank rank, CardSuit suit) {
-    cards_.push_back(std::make_shared<Card>());
-    cards_.back()->setRankAndSuit(rank, suit);
 }
 
 } // namespace tumble

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "cards/Card.h"
 #include "packs/Sorter.h"
 
 namespace tumble {
 
-/// By rank, and by suit among equal ranks; jokers above all other cards.
+/// By rank, and by suit among equal ranks.
 class OrderRankSuit : public CardOrder {
-public:
-    std::int16_t fcmp(const Card& card1, const Card& card2) const override;
+    std::pair<int, int> key(const Card& crd) const override { return {crd.rank(), crd.suit()}; }
 };
 
 } // namespace tumble

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "cards/Card.h"
 #include "packs/Sorter.h"
 
 namespace tumble {
 
-/// By suit, and by rank among equal suits; jokers above all other cards.
+/// By suit, and by rank among equal suits.
 class OrderSuitRank : public CardOrder {
-public:
-    std::int16_t fcmp(const Card& card1, const Card& card2) const override;
+    std::pair<int, int> key(const Card& crd) const override { return {crd.suit(), crd.rank()}; }
 };
 
 } // namespace tumble

@@ -7,13 +7,13 @@
 
 namespace tumble {
 
-/// The first window of a run: the six settings of a game, with previews of the card size and the back design.
+/// The options dialog: the six settings of a game, with previews of the card size and the back design.
 class frmTumbleOptions : public Form {
 public:
     using StartGame = std::function<void(CardSize size, BackStyle backStyle, FaceDirection faceDir, DeckType dckType,
                                          SortOrder sortOrder, LayoutStyle inPile)>;
 
-    /// `startGame` is called once, by the Play button, with the dialog hidden.
+    /// The Play button hides the dialog and calls `startGame`, once.
     explicit frmTumbleOptions(StartGame startGame);
 
     void Form_Load() override;

@@ -25,7 +25,7 @@ bool PileAccepterTumble::acceptCard(const Card& pileCard, const Card& crd) {
         MsgBox(why, "Invalid Move!");
         return false;
     }
-    // The card being accepted is not on its pile yet.
+    // The accepted card is not on its pile yet.
     if (numPileCards_() == cardsToWin_ - 1) {
         MsgBox("CONGRATULATIONS!", "YOU WIN");
     }
@@ -45,7 +45,7 @@ std::string PileAccepterTumble::refusal(const Card& pileCard, const Card& crd) c
     const auto step = static_cast<std::int16_t>(static_cast<std::int64_t>(crd.rank()) - top->rank());
     if (step != 0 && step != 1) {
         std::string message = "You must play either a " + top->getStr();
-        if (top->rank() != rkAce) { // above which there is no rank
+        if (top->rank() != rkAce) { // no rank is higher
             const auto next = static_cast<CardRank>(static_cast<std::int64_t>(top->rank()) + 1);
             message += " or a " + CardConstants::rankName(next) + " of " + top->getSuitStr() + "s";
         }

@@ -13,9 +13,14 @@ namespace {
 constexpr Colour yellow = 0x00FFFF;
 constexpr Colour blue = 0xFF0000;
 
-// A card may be made a pile card and never given a pack; there is nothing to take from it then, or to put on.
+// A pile card without a pack neither gives nor takes a card.
 bool standsForPack(const Card& crd) {
     return crd.visible() == vsPile && crd.pack() != nullptr;
+}
+
+bool pileTakesCard(const Card& pileCard, const Card& crd) {
+    const auto accepter = pileCard.pack()->accepter();
+    return accepter == nullptr || accepter->acceptCard(pileCard, crd);
 }
 
 } // namespace
@@ -64,30 +69,27 @@ std::shared_ptr<Card> CardTracker::identifyCard(float X, float Y) {
 }
 
 void CardTracker::bringCurCardToTop() {
-    if (curCard_ == nullptr) {
-        return;
+    if (curCard_ != nullptr) {
+        takeCurCardOut();
+        curCard_->draw();
+        layCurCardOnTop();
     }
-    takeCurCardOut();
-    curCard_->draw();
-    layCurCardOnTop();
 }
 
 void CardTracker::flipCurCard() {
-    if (curCard_ == nullptr) {
-        return;
+    if (curCard_ != nullptr) {
+        curCard_->flip();
+        drawFrom(curIndex_);
     }
-    curCard_->flip();
-    drawFrom(curIndex_);
 }
 
 void CardTracker::removeCurCard() {
-    if (curCard_ == nullptr) {
-        return;
+    if (curCard_ != nullptr) {
+        curCard_->undraw();
+        takeCurCardOut();
+        letGo();
+        drawFrom(1);
     }
-    curCard_->undraw();
-    takeCurCardOut();
-    letGo();
-    drawFrom(1);
 }
 
 void CardTracker::startCurCardMove(float X, float Y) {
@@ -112,13 +114,13 @@ void CardTracker::moveCurCard(float X, float Y) {
     if (curCard_ == nullptr || !moveInProg_) {
         return;
     }
-    // The window arms the drag again after each step; armed on a pile it would take the top card off.
+    // The window arms the drag again after each step; on a pile, that would take the top card.
     if (curCard_->visible() == vsPile) {
         letGo();
         return;
     }
-    const bool insideLimits = X >= 0 && X <= picture_->Width() - margin && Y >= 0 && Y <= picture_->Height() - margin;
-    if (!insideLimits) {
+    const Rect limits{0, 0, picture_->Width() - margin, picture_->Height() - margin};
+    if (!limits.contains(Point{X, Y})) {
         endCurCardMove();
         return;
     }
@@ -138,7 +140,7 @@ void CardTracker::endCurCardMove() {
     const auto dropped = curCard_ != nullptr && curCard_->visible() == vsCard ? curCard_ : nullptr;
     const auto target = dropped != nullptr ? findDropPile(*dropped) : nullptr;
     if (target != nullptr && pileTakesCard(*target, *dropped)) {
-        // On the pile before it leaves the table: the repainted pile shows it on top.
+        // First onto the pile, so that the repainted pile shows the card on top.
         target->pack()->addCardToTop(dropped);
         removeCurCard();
     } else {
@@ -174,7 +176,7 @@ std::string CardTracker::checkSanity() const {
     return {};
 }
 
-// Takes the current card out of the list; it stays the current card, but has no index.
+// Leaves the card current, but without an index.
 void CardTracker::takeCurCardOut() {
     tableCards_.erase(tableCards_.begin() + static_cast<std::ptrdiff_t>(curIndex_ - 1));
     curIndex_ = 0;
@@ -190,7 +192,7 @@ void CardTracker::letGo() {
     curCard_ = nullptr;
 }
 
-// Draws the cards from a position, counted from 1, to the top.
+// Draws the cards from a position, counted from 1, to the topmost.
 void CardTracker::drawFrom(std::size_t position) const {
     for (std::size_t i = position; i <= tableCards_.size(); ++i) {
         tableCards_[i - 1]->draw();
@@ -215,10 +217,8 @@ std::shared_ptr<Card> CardTracker::findDropPile(const Card& crd) const {
         if (!standsForPack(*pileCard) || !cardsOverlap(crd, *pileCard)) {
             continue;
         }
-        const double width =
-            static_cast<double>(std::max(crd.x2(), pileCard->x2())) - std::min(crd.x1(), pileCard->x1());
-        const double height =
-            static_cast<double>(std::max(crd.y2(), pileCard->y2())) - std::min(crd.y1(), pileCard->y1());
+        const double width = std::max<double>(crd.x2(), pileCard->x2()) - std::min(crd.x1(), pileCard->x1());
+        const double height = std::max<double>(crd.y2(), pileCard->y2()) - std::min(crd.y1(), pileCard->y1());
         const auto area = static_cast<float>(width * height);
         if (area < bestArea) {
             bestArea = area;
@@ -226,11 +226,6 @@ std::shared_ptr<Card> CardTracker::findDropPile(const Card& crd) const {
         }
     }
     return best;
-}
-
-bool CardTracker::pileTakesCard(const Card& pileCard, const Card& crd) {
-    const auto accepter = pileCard.pack()->accepter();
-    return accepter == nullptr || accepter->acceptCard(pileCard, crd);
 }
 
 } // namespace tumble

@@ -44,7 +44,7 @@ TEST(CardTest, RoundsItsEdgesOnceAndHalvesToEven) {
     for (const auto& [size, at, align, expected] : cases) {
         Card crd;
         crd.setAttributes(nullptr, size, fdFaceUp, vsCard, bsFirst);
-        crd.setAttributes(nullptr, static_cast<CardSize>(3), fdFaceUp, vsCard, bsFirst); // no size: it keeps its own
+        crd.setAttributes(nullptr, static_cast<CardSize>(3), fdFaceUp, vsCard, bsFirst); // keeps the size
         crd.setPosition(at.x, at.y, align, align);
         EXPECT_EQ((Edges{crd.x1(), crd.y1(), crd.x2(), crd.y2()}), expected);
         EXPECT_EQ(desktop.takeMessages(), (std::vector<MemoryDesktop::Message>{{"Invalid card size!", "Tumble"}}));
@@ -84,7 +84,7 @@ TEST(CardTest, CardsPilesBlocksAndErasuresArePaintedStrokeByStroke) {
         EXPECT_EQ(painted(), "fill 100.5,200 828.5,1333 blue");
     }
     crd->setAsJoker();
-    crd->setRankAndSuit(rkAce, suClub); // no joker any more
+    crd->setRankAndSuit(rkAce, suClub); // ends the joker
     EXPECT_EQ(crd->getStr(), "Ace of Clubs");
 }
 

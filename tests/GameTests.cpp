@@ -16,7 +16,7 @@
 namespace tumble {
 namespace {
 
-/// Notes which controls it was told to show anew, and tells of each painting.
+/// Records the changed controls, and calls `whenPainted` for each item.
 class WatchfulDesktop : public MemoryDesktop {
 public:
     WatchfulDesktop() : MemoryDesktop(application()) { keepLog(); }
@@ -31,7 +31,7 @@ public:
 
 class OptionsTest : public testing::Test {
 protected:
-    /// The six settings as "&Play" hands them over: size, back, face, deck, order, layout.
+    /// The six settings that "&Play" passes on: size, back, face, deck, order, layout.
     std::vector<int> play() {
         options.cmdPlay.Click();
         return settings;
@@ -64,7 +64,7 @@ TEST_F(OptionsTest, EachButtonSetsItsOwnAndFreshDialogStartsFromTheDefaults) {
             next.Select();
             desktop.changes.clear();
             button.Select();
-            button.Select(); // is selected already
+            button.Select(); // a second time
             EXPECT_TRUE(desktop.changes.starts_with(next.Name() + " " + button.Name() + " ")) << desktop.changes;
             EXPECT_TRUE(button.Value() && !next.Value());
             expected[setting] = values[i];
@@ -100,8 +100,7 @@ TEST_F(OptionsTest, PreviewsStandInTheMiddleOfTheirBoxesAndFollowEachChoice) {
     EXPECT_EQ(options.pctBackDesign.displayList().items().size(), 1U); // each covers the one before it
 }
 
-/// A form's size and its controls by their tab positions, each with all that it was designed with; those of a frame
-/// follow it.
+/// A form's size and the design of its controls, sorted by tab position; a frame's controls follow the frame.
 std::string designOf(const Container& container) {
     std::ostringstream text;
     if (const auto* form = dynamic_cast<const Form*>(&container)) {
@@ -188,7 +187,7 @@ TEST(MainModTest, PlayOpensTheTableAndDealsCardByCardUnderTheHourglass) {
     WatchfulDesktop desktop;
     MainMod program;
     program.Main();
-    std::map<std::string, int> paintings; // by what was done last, and whether what is painted lies on the table
+    std::map<std::string, int> paintings; // by the last journal entry, and the card already on the table
     desktop.whenPainted = [&](const DisplayItem& item) {
         const auto crd = program.tableTracker->identifyCard(item.place.right, item.place.bottom);
         ++paintings[desktop.journal().back() + (crd == nullptr ? "" : ", " + crd->getStr())];
@@ -209,7 +208,7 @@ TEST(MainModTest, LaysThePackOutOrInTheMiddleAndThePilesOverIt) {
     for (const auto& pile : {program.pileTopRight, program.pileBottomLeft, program.pileBottomRight}) {
         EXPECT_EQ(pile->accepter(), program.pileTopLeft->accepter());
     }
-    table.drag({1310, 1010}, {1242, 1927}); // the lowest card comes to touch the pile with its corner
+    table.drag({1310, 1010}, {1242, 1927}); // the lowest card touches the pile with its corner
     EXPECT_EQ(program.pileTopLeft->numCards(), 1);
     table.painted();
     for (const int layout : {-1, 1}) {
@@ -227,13 +226,13 @@ TEST(TableWindowTest, LabelNamesTheCardUnderTheMouseAndARightPressFlipsIt) {
     table.press({3010, 110}, 4);
     EXPECT_EQ(table.label(), "Pile (Six of Spades)");
     table.drag({110, 110}, {3010, 110});
-    EXPECT_EQ(table.label(), "Five of Hearts"); // until the mouse moves again
+    EXPECT_EQ(table.label(), "Five of Hearts"); // until the next mouse move
     table.drag({3010, 110}, {3010, 4510});
     EXPECT_EQ(table.label(), "Pile (Five of Hearts)");
     table.painted();
-    table.press({3010, 4510}, 2); // flips the card and drags nothing
+    table.press({3010, 4510}, 2); // flips the card, starts no drag
     table.release({200, 200});
-    table.press({3010, 110}, 2); // a pile shows as before
+    table.press({3010, 110}, 2); // a pile cannot be flipped
     EXPECT_EQ(table.painted(), "CardBack1 3000,4500; SixSpades 3000,100; edge of 1 3000,100; CardBack1 3000,4500");
     table.program.table().cmdHelp.Click();
     EXPECT_EQ(table.messages(),

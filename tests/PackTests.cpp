@@ -18,7 +18,7 @@ protected:
 
 TEST_F(CardPackTest, DealsInRowsThatEndWithTheCardPastTheBound) {
     pack->init(csSmall, fdFaceUp, bsFirst, dtStandard);
-    pack->dealToTable(1300, 1000, 2178); // the second card of a row reaches to it
+    pack->dealToTable(1300, 1000, 2178); // exactly the right edge of the second card
     const std::string painted = table.painted();
     EXPECT_TRUE(painted.starts_with("TwoDiamonds 1300,1000; TwoClubs 1450,1000; TwoHearts 1600,1000; "
                                     "TwoSpades 1300,2000; ThreeDiamonds 1450,2000; "));
@@ -31,7 +31,7 @@ TEST_F(CardPackTest, SortsIntoEachKnownOrderAndLeavesEqualCardsAsTheyWere) {
     pack->init(csSmall, fdFaceUp, bsFirst, dtStandardWithJokers);
     pack->init(csSmall, fdFaceUp, bsFirst, static_cast<DeckType>(9));
     EXPECT_EQ(pack->numCards(), 158);
-    pack->seeTopCard()->setAsJoker(); // its rank and suit mean nothing then
+    pack->seeTopCard()->setAsJoker(); // which then has a rank and suit that mean nothing
     for (const SortOrder sortOrder :
          {soRankSuitAsc, soSuitRankDesc, soNatural, static_cast<SortOrder>(6), soRankSuitDesc, soSuitRankAsc}) {
         const bool byRank = sortOrder <= soRankSuitDesc;
@@ -53,7 +53,8 @@ TEST_F(CardPackTest, SortsIntoEachKnownOrderAndLeavesEqualCardsAsTheyWere) {
     EXPECT_EQ(table.messages(), "Tumble: Invalid Deck Type!; Tumble: Invalid pack sorting order!");
 }
 
-// Values one hair below 1 give a place past the end of 152 cards; 28256362 / 2147483647 is the first to give place 2.
+// The largest value below 1 gives a position past the end of 152 cards. 28256362 / 2147483647 is the least value that
+// gives position 2.
 TEST_F(CardPackTest, ShuffleSwapsTheDrawnPlacesAndDrawsBothAgainPastTheEnd) {
     ScriptedRandom& random = table.desktop.random();
     pack->sort(soShuffled);

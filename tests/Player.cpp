@@ -11,18 +11,18 @@ namespace tumble {
 
 namespace {
 
-constexpr std::array lowestRanks{2, 2, 6, 7, 9, 2, 9, 7};                       // of the decks
+constexpr std::array lowestRanks{2, 2, 6, 7, 9, 2, 9, 7};                       // of each deck
 constexpr std::array<Point, 3> sizes{{{729, 1134}, {900, 1400}, {1233, 1918}}}; // width and height of a card
-constexpr Rect field{.left = 0, .top = 0, .right = 8944, .bottom = 5944};       // where a hand moves things
+constexpr Rect field{.left = 0, .top = 0, .right = 8944, .bottom = 5944}; // the part of the table that a drag can reach
 
-/// What plays at a table, to the nearest few twips.
+/// Moves and presses at the table, exact to a few twips.
 class Hands {
 public:
     virtual ~Hands() = default;
     virtual void move(Point to) = 0;
     virtual void press(Point at) = 0;
     virtual void release(Point at) = 0;
-    /// Places that together lie on all that shows.
+    /// Places of which at least one lies on each card that shows.
     virtual std::vector<Point> everywhere() const = 0;
 };
 
@@ -36,12 +36,12 @@ public:
         table_.press(at);
     }
     void release(Point at) override {
-        if (++drags_ % 2 == 0) { // else the release is the only step
+        if (++drags_ % 2 == 0) { // otherwise the release is the only step
             table_.move({(pressed_.x + at.x) / 2, (pressed_.y + at.y) / 2});
         }
         table_.release(at);
     }
-    // Each card of a spread shows at least 150 by 1000 twips of itself.
+    // At least 150 by 1000 twips of each card in a spread show.
     std::vector<Point> everywhere() const override {
         std::vector<Point> places;
         for (Point at{70, 50}; at.y < 6000; at = at.x < 8860 ? Point{at.x + 140, at.y} : Point{70, at.y + 840}) {
@@ -56,7 +56,7 @@ private:
     int drags_ = 0;
 };
 
-/// Goes by the key of a corner, by arrows as long as they bring it nearer, and by single steps in the end.
+/// Moves by the key of a corner if that is nearer, then by arrows while they come nearer, then by single steps.
 class KeyHands : public Hands {
 public:
     explicit KeyHands(Table& table) : table_(table) { key(Key::Space); }
@@ -138,7 +138,7 @@ public:
     }
 
 private:
-    /// Of a corner pile, in whole twips.
+    /// The middle of a corner pile, in whole twips; -1 is left or top, 1 right or bottom.
     Point middle(float right, float bottom) const {
         return {std::floor((field.right + right * (field.right - size_.x + 1)) / 2),
                 std::floor((field.bottom + bottom * (field.bottom - size_.y + 1)) / 2)};
@@ -149,7 +149,7 @@ private:
         return table_.label();
     }
 
-    /// The name of the card on the pile in the middle, if there is one.
+    /// The name of the top card on the deck's pile; "empty" when there is no card or no pile.
     std::string topOfDeck() {
         if (settings_.layout == 0) {
             return "empty";
@@ -167,7 +167,7 @@ private:
         }
     }
 
-    /// The card that goes onto the corner next; past the Ace there is none of that name.
+    /// The name of the next card for the corner; after the Ace, the name of no card.
     std::string wanted(std::size_t corner) const {
         const int copies = settings_.deck < 5 ? 1 : 2;
         const auto rank = static_cast<CardRank>(lowestRanks.at(settings_.deck) + played_.at(corner) / copies);
@@ -213,7 +213,7 @@ private:
         }
     }
 
-    /// Lays the deck's top card where it touches no pile and leaves a strip of the one laid before it to see.
+    /// Lays the deck's top card where it touches no pile and leaves a strip of the previous card visible.
     void layAside(const std::string& name) {
         const int perRow = static_cast<int>(8925 - 3 * size_.x) / 100;
         const auto column = static_cast<float>(laidAside_ % perRow);
@@ -230,13 +230,13 @@ private:
     int left_;
     Table table_;
     std::unique_ptr<Hands> hands_;
-    // The middles of the corners, one for each suit, and near the top left corner of the pile in the middle.
+    // The middles of the corner piles, one for each suit; and a place near the top left corner of the deck's pile.
     std::array<Point, 4> corners_{middle(-1, -1), middle(1, -1), middle(-1, 1), middle(1, 1)};
     Point deck_{std::floor(4537 - size_.x / 2), std::floor(3037 - size_.y / 2)};
     int laidAside_ = 0;
-    std::multimap<std::string, Point> seen_; // where cards showed when last looked at
-    std::array<int, 4> played_{};            // cards of its suit on each corner
-    std::array<std::string, 4> shown_;       // the name of each corner
+    std::multimap<std::string, Point> seen_; // where each card was last seen
+    std::array<int, 4> played_{};            // the number of cards of its suit on each corner
+    std::array<std::string, 4> shown_;       // the name of each corner pile
 };
 
 } // namespace

@@ -6,10 +6,10 @@
 
 namespace tumble {
 
-/// Throws `what` when it does not hold; the tests and the fuzzer both stop at that.
+/// Throws `what` unless `holds`; the tests and the fuzzer both stop there.
 void require(bool holds, const std::string& what);
 
-/// The six choices of a game, each counted from 0 in the order in which the dialog offers them.
+/// The six settings of a game, each counted from 0 in the dialog's order.
 struct Settings {
     std::size_t deck;
     std::size_t size;
@@ -23,9 +23,9 @@ void choose(frmTumbleOptions& dialog, const Settings& settings);
 
 enum class PlayedBy { Mouse, Keys };
 
-/// Plays a game as a person does: chooses in the dialog, sees what lies where only by the name under the pointer, drags
-/// with the left button, or with Space, and knows the rules. Requires after each drop that cards and piles show where
-/// they should, and that the last card, no other, wins. `shuffle` are the values that the generator hands out.
+/// Plays a game as a person does, by the dialog, the name under the pointer, the left button or Space, and the rules.
+/// Requires after each drop that the piles show the right cards, and that only the last card wins. `shuffle` holds the
+/// random generator's values.
 void playToTheWin(const Settings& settings, std::vector<float> shuffle, PlayedBy playedBy = PlayedBy::Mouse);
 
 } // namespace tumble

@@ -26,14 +26,14 @@ TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
     const DisplayItem open{{150, 150, 450, 450}, {BoxOperation{{150, 150, 450, 450}, 0}}};
     const std::vector<std::tuple<std::vector<DisplayItem>, std::optional<KeyboardCursor>, std::vector<Point>>> cases{
         {{}, {}, {}},
-        {{card, open}, {}, {{300, 300}}}, // what is not opaque hides nothing and is no stop
+        {{card, open}, {}, {{300, 300}}}, // an item that is not opaque hides nothing and is no stop
         {{low, block({200, 0, 600, 600})}, {}, {{149, 300}, {400, 300}}},
-        {{low, block({200, 220, 600, 600})}, {}, {{300, 159}, {400, 410}}}, // of an L the larger leg
+        {{low, block({200, 220, 600, 600})}, {}, {{300, 159}, {400, 410}}}, // the larger leg of an L
         {{low, block({220, 0, 300, 600}), block({0, 200, 600, 300})}, {}, {{400, 400}, {260, 450}, {300, 250}}},
-        {{low, block({99.5F, 100, 500.5F, 500})}, {}, {{300, 300}}}, // nothing of the lower
+        {{low, block({99.5F, 100, 500.5F, 500})}, {}, {{300, 300}}}, // the lower item is hidden
         {{low, block({101.5F, 0, 600, 600})}, {}, {{100, 300}, {351, 300}}},
-        {{low, block({100.5F, 0, 600, 600})}, {}, {{350, 300}}},          // less than a whole twip
-        {{low, block({200, 0, 600, 600}, tableGreen)}, {}, {{149, 300}}}, // an erasure hides, and is no stop
+        {{low, block({100.5F, 0, 600, 600})}, {}, {{350, 300}}},          // less than a whole twip shows
+        {{low, block({200, 0, 600, 600}, tableGreen)}, {}, {{149, 300}}}, // an erasure hides and is no stop
         {{low, block({200, 200, 400, 400}), block({50, 50, 150, 550})}, {}, {{450, 300}, {300, 300}, {100, 300}}},
         {{block({0, 0, 400, 400}), block({100, 120, 300, 300})}, {}, {{200, 59}, {200, 210}}},
         {{block({0, 0, 400, 1000}), block({0, 0, 400, 300}), block({0, 700, 400, 1000})},
@@ -41,10 +41,10 @@ TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
          {{200, 500}, {200, 150}, {200, 850}}},
         {{block({-500, -500, 40, 40}), block({2900, 1900, 3500, 2500}), block({2981, 1981, 3500, 2500})},
          {},
-         {{20, 20}, {2940, 1940}}}, // within the part alone
+         {{20, 20}, {2940, 1940}}}, // inside the given part only
         {{low, block({200, 0, 600, 600})}, KeyboardCursor{{120, 300}}, {{400, 300}}},
         {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}}, {{149, 300}}},
-        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}, true}, {{300, 300}}}, // carried, it hides nothing
+        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}, true}, {{300, 300}}}, // a carried item hides none
         {{low, block({200, 0, 600, 600}, tableGreen)}, KeyboardCursor{{400, 300}, true}, {{149, 300}}}};
     for (const auto& [items, cursor, expected] : cases) {
         DisplayList list(3000, 2000, tableGreen);
@@ -107,7 +107,7 @@ TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOt
     }
 }
 
-/// A box with six blocks on it that notes what it hears: "down 1 0 200,100" with button and shift keys.
+/// A box with six blocks, which records its mouse events: "down 1 0 200,100" with button and shift keys.
 class Blocks : public Form {
 public:
     Blocks() : Form("Blocks", 3000, 2000) {
@@ -132,12 +132,12 @@ public:
     std::string heard;
 };
 
-/// The box, and what acts on it.
+/// The box with its keyboard pointer and touch gesture.
 class Desk {
 public:
-    /// What the player does, in words: keys, "Shift+Left held+Space"; the mouse, "press 1 200 100" with the button; a
-    /// finger, "touch 1 200 100" with its number. Gives the keys that are not the pointer's, what the box has heard,
-    /// and the ring.
+    /// Plays a script: keys, "Shift+Left held+Space"; the mouse, "press 1 200 100" with the button; a finger,
+    /// "touch 1 200 100" with its number. Returns the keys that the pointer did not take, the box's events, and the
+    /// cursor.
     std::string act(const std::string& script) {
         std::istringstream words(script);
         std::string told;
@@ -201,7 +201,7 @@ TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
         {"Up", "move 0 0 1100,200; ring 1100,200"},
         {"Right", "move 0 0 2700,200; ring 2700,200"},
         {"Down", "ring 1500,900"},
-        {"Home Shift+Home", "move 0 0 200,200; ring 200,200"}, // where it stays
+        {"Home Shift+Home", "move 0 0 200,200; ring 200,200"}, // no second move
         {"PageUp", "move 0 0 2700,200; ring 2700,200"},
         {"End held+Right", "move 0 0 200,1600; move 0 0 1500,900; ring 1500,900"},
         {"PageDown", "move 0 0 2700,1600; ring 2700,1600"},
@@ -225,24 +225,24 @@ TEST(KeyboardPointerTest, EachKeyDoesItsOwnAndTheFirstOnlyShowsThePointer) {
         EXPECT_EQ(desk.act(keys), told) << keys;
     }
     Desk desk;
-    desk.form.box.Cls(); // and with it every stop
+    desk.form.box.Cls(); // which leaves no stop
     EXPECT_EQ(desk.act("Space Left Home Space"), "move 0 0 1464,964; down 1 0 1464,964; holds 1464,964");
     desk.capture.releaseAll();
     EXPECT_EQ(desk.act("End"), "up 1 0 1464,964; ring 1464,964");
 }
 
-TEST(KeyboardPointerTest, GoesWhenTheMouseMovesFarOrPressesAndComesBackWhereItWas) {
+TEST(KeyboardPointerTest, HidesWhenTheMouseMovesFarOrPressesAndReturnsToItsPlace) {
     Desk desk;
     const std::vector<std::pair<std::string, std::string>> steps{
         {"Right Home", "move 0 0 1500,900; move 0 0 200,200; ring 200,200"},
-        {"move 0 2000 1000 move 0 2060 1000 move 0 1964 1048", "ring 200,200"}, // the first, from anywhere
+        {"move 0 2000 1000 move 0 2060 1000 move 0 1964 1048", "ring 200,200"}, // the first may be far
         {"move 0 2061 1000", "move 0 0 2061,1000; "},
         {"PageDown Space", "move 0 0 200,200; down 1 0 200,200; holds 200,200"},
         {"press 2 1000 1000", "up 1 0 200,200; down 2 0 1000,1000; "},
-        {"Space Left F", ""}, // the mouse holds a button
+        {"Space Left F", ""}, // the mouse holds a button, so keys do nothing
         {"release 2 1000 1000 Space Space", "up 2 0 1000,1000; move 0 0 200,200; down 1 0 200,200; holds 200,200"},
         {"move 0 900 1000", "holds 200,200"},
-        {"move 0 2900 1000", "move 1 0 2900,1000; "}, // what Space holds goes along
+        {"move 0 2900 1000", "move 1 0 2900,1000; "}, // the held card follows the mouse
         {"press 1 2900 1000", "up 1 0 2900,1000; down 1 0 2900,1000; "}};
     for (const auto& [script, told] : steps) {
         EXPECT_EQ(desk.act(script), told) << script;
@@ -283,7 +283,7 @@ TEST(MouseCaptureTest, AMoveWithAHeldButtonUpReleasesItWhereItWasLastUnlessTheFo
     }
 }
 
-TEST(TouchGestureTest, WhatATouchMeansShowsLater) {
+TEST(TouchGestureTest, MeaningOfATouchShowsLater) {
     const std::string click = "down 1 0 500,500; up 1 0 500,500; ";
     const std::string rightClick = "down 2 0 500,500; up 2 0 500,500; ";
     const std::string drag = "down 1 0 500,500; move 1 0 590,620; ";

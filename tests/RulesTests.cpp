@@ -13,7 +13,7 @@ protected:
         pileCard.visibility(vsPile);
         pileCard.pack(std::make_shared<CardPack>());
     }
-    /// Whether the pile takes the card, and what is said to it. 23 cards lie on the piles.
+    /// Whether the pile accepts the card, and the message. 23 cards lie on the piles.
     std::string answer(const std::shared_ptr<Card>& crd) {
         const bool taken = table.accepter->acceptCard(pileCard, *crd);
         return (taken ? "taken " : "refused ") + table.messages();
@@ -46,8 +46,8 @@ TEST_F(PileRulesTest, PileWithCardsIsBuiltUpInItsTopCardsSuit) {
         {seven, makeJoker(), "taken "},
         {seven, makeCard(rkEight, suSpade), "refused Invalid Move!: You must follow suit with a Club"},
         {seven, makeCard(rkSix, suClub), either + "a Seven of Clubs or a Eight of Clubs or a Joker"},
-        {seven, makeCard(rkNine, suSpade), either + "a Seven of Clubs or a Eight of Clubs or a Joker"}, // both faults
-        {seven, makeCard(static_cast<CardRank>(65536 + 8), suClub), "taken "}, // the step between ranks has 16 bits
+        {seven, makeCard(rkNine, suSpade), either + "a Seven of Clubs or a Eight of Clubs or a Joker"}, // both wrong
+        {seven, makeCard(static_cast<CardRank>(65536 + 8), suClub), "taken "}, // the difference of ranks has 16 bits
         {aceOfHearts, aceOfHearts, "taken "},
         {aceOfHearts, makeCard(rkTwo, suHeart), either + "a Ace of Hearts or a Joker"},
         {makeJoker(), makeCard(rkKing, suSpade), "taken "}};

@@ -63,7 +63,7 @@ std::string whatItShows(const Operations& operations) {
         const bool marked = std::holds_alternative<CircleOperation>(operations.back());
         return (marked ? "marked " : "") + colourName(fill->colour);
     }
-    // Four strokes for each card of the pile, and three that clear its corners.
+    // Four lines for each card of the pile, and three that clear its corners.
     const bool strokes = std::holds_alternative<LineOperation>(operations.front());
     return strokes ? "edge of " + std::to_string((operations.size() - 3) / 4) : "outline";
 }

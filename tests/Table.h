@@ -16,16 +16,16 @@
 
 namespace tumble {
 
-/// What items show and where their places begin: "AceSpades 100,200; edge of 3 0,0; marked yellow 0,8.5".
+/// What items show, each with its top left corner: "AceSpades 100,200; edge of 3 0,0; marked yellow 0,8.5".
 std::string inWords(std::span<const DisplayItem> items);
-/// Everything an item paints: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
+/// All operations of an item: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
 std::string inFull(const DisplayItem& item);
 
 using Cards = std::vector<std::shared_ptr<Card>>;
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit);
 std::shared_ptr<Card> makeJoker();
 
-/// The program on a desktop in memory, its table open and empty until a game is started or cards are laid on it.
+/// The program on a desktop in memory. The table is open and empty.
 class Table {
 public:
     Table();
@@ -53,7 +53,7 @@ public:
 
     /// What was painted on the table since the last call.
     std::string painted();
-    /// The cards on the table, the lowest first, as a drop of nothing paints them; no card is current afterwards.
+    /// The cards on the table, the lowest first, painted by a drop without a card. Afterwards no card is current.
     std::string cards();
     /// The message boxes since the last call, each "caption: text".
     std::string messages();
@@ -63,7 +63,7 @@ public:
     MouseCapture capture{picture()};
     KeyboardPointer pointer{capture};
     TouchGesture gesture{pointer};
-    /// The rules of a game that is not about to be won: at first, with a standard deck.
+    /// The rules of a standard deck, with 23 cards on the piles.
     std::shared_ptr<PileAccepterTumble> accepter =
         std::make_shared<PileAccepterTumble>([] { return std::int16_t{23}; });
 

@@ -8,7 +8,7 @@
 namespace tumble {
 namespace {
 
-// Three cards side by side, each a little over the one before it, and a pile; the second card is the current one.
+// Three cards in a row, each overlapping the one before it, and a pile. The second card is current.
 class CardTrackerTest : public testing::Test {
 protected:
     CardTrackerTest() {
@@ -47,7 +47,7 @@ TEST_F(CardTrackerTest, CurrentCardIsBroughtToTheTopFlippedAndRemoved) {
     tracker.removeCurCard();
     EXPECT_EQ(table.painted(), "ground 0,0; CardBack4 1000,0; green 1700,1100; ThreeClubs 500,0");
     EXPECT_EQ(tracker.checkSanity(), "");
-    tracker.bringCurCardToTop(); // of none
+    tracker.bringCurCardToTop(); // without a current card
     tracker.flipCurCard();
     tracker.removeCurCard();
     EXPECT_EQ(table.painted(), "");
@@ -73,7 +73,7 @@ protected:
 };
 
 TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
-    table.lay(rkFive, suHeart, 1000.5F, 1000.5F); // held by its edge rounded to 1000
+    table.lay(rkFive, suHeart, 1000.5F, 1000.5F); // its edge counts as 1000
     for (const Point to : {Point{8944.5F, 3000}, {-0.5F, 3000}, {3000, 5944.5F}, {3000, -0.5F}}) {
         table.press({1010, 1020});
         table.painted();
@@ -89,7 +89,7 @@ TEST_F(DragTest, StepMovesOnceAndBeyondTheLimitsDropsTheCardWhereItLies) {
         table.drag({to.x, to.y}, {1010, 1020});
     }
     table.press({1010, 1020});
-    table.move({-1, 1020}); // dropped, and held on to
+    table.move({-1, 1020}); // dropped, and still held
     table.release({9, 1020});
     EXPECT_EQ(table.cards(), "FiveHearts 0,1000");
 }
@@ -118,15 +118,15 @@ TEST_F(DragTest, PressOnAPileTakesItsTopCard) {
     table.move({1100, 1200});
     EXPECT_EQ(table.painted(), "ground 3000,102; marked yellow 3000.5,101.5; blue 5000,1000; FiveHearts 1000,1000");
     table.release({1100, 1200});
-    table.drag({3100, 302}, {3100, 302}); // a click puts it back
+    table.drag({3100, 302}, {3100, 302}); // a click returns the card
     table.drag({3100, 302}, {7100, 1200});
     EXPECT_EQ(table.cards(), "green 3000.5,101.5; SixHearts 5000,1000; FiveHearts 1000,1000; FourHearts 7000,1000");
 }
 
-TEST_F(DragTest, HandAndCardStayTogetherOnEveryWayOutOfTheTableAndBack) {
+TEST_F(DragTest, MouseAndCardStayTogetherOnEveryWayOutOfTheTableAndBack) {
     table.lay(rkFive, suHeart, 1000, 1000);
     const std::vector<std::pair<std::vector<Point>, std::string>> ways{
-        {{{1100, 7000}, {9000, 9000}, {4100, 3100}}, "FiveHearts 4000,2999"}, // each way out parts them by a twip
+        {{{1100, 7000}, {9000, 9000}, {4100, 3100}}, "FiveHearts 4000,2999"}, // each way out shifts the card by a twip
         {{{8990, 1100}, {8990, 5900}, {3100, 2100}}, "FiveHearts 2999,2000"},
         {{{-500, -500}, {3100, 2100}}, "FiveHearts 3001,2001"},
         {{{20000, 1100}, {-400, 1100}, {20000, 7000}, {1100, 1100}}, "FiveHearts 999,1000"}};
@@ -142,7 +142,7 @@ TEST_F(DragTest, HandAndCardStayTogetherOnEveryWayOutOfTheTableAndBack) {
     }
     table.press({1100, 1100});
     table.painted();
-    table.move({5022, -300}); // over the upper edge at 4182
+    table.move({5022, -300}); // crosses the upper edge at 4182
     table.move({9000, 9000});
     EXPECT_EQ(table.painted(), "ground 1000,1000; FiveHearts 4082,-100; FiveHearts 4082,-100; FiveHearts 4082,-100");
 }
@@ -218,7 +218,7 @@ TEST_F(DragTest, PressMeanwhileLeavesADragAsItIsAndReleaseOfAnyButtonEndsIt) {
     }
 }
 
-// The card is dropped at (3000, 2000), so it reaches to (3728, 3133).
+// The card is dropped at (3000, 2000); its lower right corner is (3728, 3133).
 TEST_F(DragTest, PileThatTheCardCoversMostCloselyTakesIt) {
     // clang-format off
     const std::vector<std::pair<std::vector<Point>, std::string>> cases{
@@ -227,7 +227,7 @@ TEST_F(DragTest, PileThatTheCardCoversMostCloselyTakesIt) {
         {{{3000, 3133}}, "3000,3133"}, {{{3000, 3134}}, "3000,2000"},
         {{{2501, 2000}, {3500, 2000}}, "2501,2000"}, {{{3499, 2000}, {2500, 2000}}, "3499,2000"},
         {{{3000, 1500}, {3000, 2499}}, "3000,2499"}, {{{3000, 2501}, {3000, 1500}}, "3000,1500"},
-        {{{2500, 2000}, {3500, 2000}}, "2500,2000"}, // the same area: the earlier one
+        {{{2500, 2000}, {3500, 2000}}, "2500,2000"}, // of equal areas the earlier pile
         {{{3400, 2000}, {3000, 2500}}, "3000,2500"}}; // 1128 by 1133 against 728 by 1633
     // clang-format on
     for (const auto& [piles, place] : cases) {

@@ -11,7 +11,7 @@ namespace {
 
 class EverySetting : public testing::TestWithParam<std::size_t> {
 protected:
-    /// The games of a deck in each size, order and layout: four backs and two faces of each, or one in turn.
+    /// Plays a deck in each size, order and layout, each with 1 to 8 of the combinations of back and face.
     static void play(std::size_t deck, std::size_t backsAndFaces) {
         for (std::size_t game = 0; game < 36 * backsAndFaces; ++game) {
             SCOPED_TRACE(testing::Message() << "deck " << deck << ", game " << game);
@@ -21,7 +21,7 @@ protected:
         }
     }
 
-    /// The same in every run.
+    /// Random values, the same in every run.
     static std::vector<float> shuffle(std::size_t game) {
         std::mt19937 random(static_cast<std::mt19937::result_type>(game));
         std::vector<float> values(2080);
@@ -38,7 +38,7 @@ TEST_P(EverySetting, IsPlayedToTheWinWithEveryBackAndFace) {
     play(GetParam(), 8);
 }
 
-// In each size and layout, the orders in turn.
+// Every size with every layout; the orders take turns.
 TEST_P(EverySetting, IsWonByKeysAlone) {
     for (std::size_t game = 0; game < 6; ++game) {
         SCOPED_TRACE(game);

@@ -93,16 +93,16 @@ TEST_F(CaptionsTest, HaveTheFontAskedForOrTheLargestThatFits) {
     const Label high(form, "high", "ninechars", {0, 0, 900, 600}, 0, {.points = 10});
     const OptionButton option(form, "option", "ninechars", {}, 0, {});
     using Case = std::tuple<double, PixelSize, std::string>;
-    for (const auto& [scale, room, expected] : {Case{1, {75, 60}, "low 8.25 100%; high 10 100%; option 8.25 100%; "},
+    for (const auto& [scale, size, expected] : {Case{1, {75, 60}, "low 8.25 100%; high 10 100%; option 8.25 100%; "},
                                                 Case{1, {74, 16}, "low 8 100%; high 8 100%; option 8 100%; "},
                                                 Case{1, {44, 60}, "low 6.5 75%; high 10 100%; option 8.25 100%; "},
                                                 Case{1, {35, 60}, "low 6.5 65%; high 10 100%; option 7.75 100%; "},
                                                 Case{2, {1, 1}, "low 13 65%; high 13 65%; option 13 65%; "}}) {
         captions.clear();
         fonts.str({});
-        add(low, room);
-        add(high, room);
-        add(option, room);
+        add(low, size);
+        add(high, size);
+        add(option, size);
         captions.fit(Layout{.scale = scale});
         EXPECT_EQ(fonts.str(), expected);
     }
