@@ -10,7 +10,7 @@
 #include <memory>
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -137,4 +137,4 @@ std::vector<Colour> backColours(int colouring) {
     return {ground, flowerColour, knotColour};
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -97,4 +97,4 @@ void repeatUpsideDown(Canvas& canvas, double fall) {
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

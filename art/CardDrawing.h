@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 // The card's own coordinates, in which everything is drawn: one unit is one pixel of the smallest rendition.
 inline constexpr double cardWidth = 81;
@@ -31,4 +31,4 @@ void paintIndex(const Drawing& drawing, int rank, Suit suit);
 /// through the middle and falls to the right by that many pixels in each.
 void repeatUpsideDown(Canvas& canvas, double fall);
 
-} // namespace tumble
+} // namespace tumble::art

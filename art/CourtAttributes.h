@@ -3,7 +3,7 @@
 #include "art/Figure.h"
 
 /// What the court figures hold. It rises about the axis x = 0, which the hand grips at y = -18.
-namespace tumble::CourtAttributes {
+namespace tumble::art::CourtAttributes {
 
 using enum Cloth;
 using enum Form;
@@ -107,4 +107,4 @@ inline constexpr std::array partisan = {
     Piece{Yellow, Whole, "M0 -41.4 C3 -41.4 5.2 -42.6 6 -46 C6.6 -40.6 3.8 -38 0 -38"},
 };
 
-} // namespace tumble::CourtAttributes
+} // namespace tumble::art::CourtAttributes

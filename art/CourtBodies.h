@@ -4,7 +4,7 @@
 
 /// What the court figures of a rank have in common. The middle of the card is the origin, y grows downwards, and a
 /// figure fills the upper half of its frame, from x = -28 to 28 and y = -56 to 0.
-namespace tumble::CourtBodies {
+namespace tumble::art::CourtBodies {
 
 using enum Cloth;
 using enum Form;
@@ -80,4 +80,4 @@ inline constexpr std::array arm = {
     Piece{Black, Line, "M19.6 -19.6 L24.4 -19 M19.8 -17.2 L24.2 -16.8"},
 };
 
-} // namespace tumble::CourtBodies
+} // namespace tumble::art::CourtBodies

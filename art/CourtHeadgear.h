@@ -3,7 +3,7 @@
 #include "art/Figure.h"
 
 /// Crowns, coronets and caps, which sit on the head of a court figure.
-namespace tumble::CourtHeadgear {
+namespace tumble::art::CourtHeadgear {
 
 using enum Cloth;
 using enum Form;
@@ -101,4 +101,4 @@ inline constexpr std::array peakedCap = {
     Piece{Black, Lines, "M0 -49 C3 -47.4 7 -47 11.6 -47.2"},
 };
 
-} // namespace tumble::CourtHeadgear
+} // namespace tumble::art::CourtHeadgear

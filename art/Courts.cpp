@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -128,4 +128,4 @@ double courtFall(PixelSize size) {
     return sashFall * size.height / cardHeight / (sashHalfWidth * size.width / cardWidth);
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -3,7 +3,7 @@
 #include "art/Symbols.h"
 #include "platform/paint/Canvas.h"
 
-namespace tumble {
+namespace tumble::art {
 
 /// The rank of the jacks; queens and kings follow.
 inline constexpr int firstCourtRank = 11;
@@ -14,4 +14,4 @@ void paintCourt(const Drawing& drawing, int rank, Suit suit);
 /// By how much the line on which the halves meet falls to the right, in a picture of that size.
 double courtFall(PixelSize size);
 
-} // namespace tumble
+} // namespace tumble::art

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -97,4 +97,4 @@ void paintPieces(const Drawing& drawing, std::span<const Piece> pieces, const Wa
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

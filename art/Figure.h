@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <span>
 
-namespace tumble {
+namespace tumble::art {
 
 /// How a cloth is patterned; every pattern is symmetrical about the axis x = 0.
 enum class Weave { Plain, Stripes, Lozenges, Dots, Chevrons, Ermine };
@@ -54,4 +54,4 @@ void paintPieces(const Drawing& drawing, std::span<const Piece> pieces, const Wa
 /// Fills a shape with a fabric and draws its outline.
 void paintFabric(const Drawing& drawing, const Path& shape, const Fabric& fabric);
 
-} // namespace tumble
+} // namespace tumble::art

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <map>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -122,4 +122,4 @@ Glyph glyph(char character, PixelSize size) {
     return {design.mapped(across, down), pen};
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -3,7 +3,7 @@
 #include "platform/base/Path.h"
 #include "platform/base/Pixels.h"
 
-namespace tumble {
+namespace tumble::art {
 
 /// A letter of "AJQKOER", a digit from 2 to 9 or the ten, written '0', as the middle line of a pen, in pixels.
 /// The pen is a whole number of pixels wide, and the upright and level strokes lie on whole pixels.
@@ -16,4 +16,4 @@ struct Glyph {
 /// The glyph that fills a box of that size, whose upper left corner is the origin.
 Glyph glyph(char character, PixelSize size);
 
-} // namespace tumble
+} // namespace tumble::art

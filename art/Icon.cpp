@@ -7,7 +7,7 @@
 #include <cmath>
 #include <utility>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -56,4 +56,4 @@ std::vector<Colour> iconColours() {
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 /// The width, and height, of the icon in its own coordinates.
 inline constexpr int iconWidth = 32;
@@ -18,4 +18,4 @@ struct Shape {
 /// What the icon consists of when it is large.
 std::vector<Shape> iconShapes();
 
-} // namespace tumble
+} // namespace tumble::art

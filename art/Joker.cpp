@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -85,4 +85,4 @@ void paintJester(const Drawing& drawing) {
     juggle(Suit::Diamonds, {57, 15});
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -2,7 +2,7 @@
 
 #include "platform/paint/Canvas.h"
 
-namespace tumble {
+namespace tumble::art {
 
 /// Paints the joker's mark in the upper left corner.
 void paintJokerMark(const Drawing& drawing);
@@ -10,4 +10,4 @@ void paintJokerMark(const Drawing& drawing);
 /// Paints the jester, who juggles the suits.
 void paintJester(const Drawing& drawing);
 
-} // namespace tumble
+} // namespace tumble::art

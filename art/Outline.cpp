@@ -1,6 +1,6 @@
 #include "art/Outline.h"
 
-namespace tumble {
+namespace tumble::art {
 
 Path Outline::path() const {
     Path path;
@@ -29,4 +29,4 @@ Path Outline::path() const {
     return path;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 /// An outline written as commands and numbers, with absolute coordinates: M x y moves, L x y draws a line,
 /// Q bx by x y and C bx by cx cy x y draw curves, O x y r adds a circle, Z closes. It begins with M or O. One that
@@ -77,4 +77,4 @@ inline Path outline(Outline written) {
     return written.path();
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::vector<Colour> suitColours() {
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 // The four colours of the card faces.
 inline constexpr Colour black = rgb(0, 0, 0);
@@ -18,4 +18,4 @@ std::vector<Colour> faceColours();
 /// 15 colours for suits on white: steps from white to black and to red.
 std::vector<Colour> suitColours();
 
-} // namespace tumble
+} // namespace tumble::art

@@ -9,7 +9,7 @@
 
 #include <array>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -101,4 +101,4 @@ std::vector<Colour> pictureColours(int picture) {
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

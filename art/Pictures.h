@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 // The pictures of the set: first the faces, the four suits of the ace to those of the king; then joker and backs.
 inline constexpr int faceCount = 13 * suitCount;
@@ -37,4 +37,4 @@ std::vector<Colour> pictureColours(int picture);
 void drawIcon(Canvas& canvas, int margin = 0);
 std::vector<Colour> iconColours();
 
-} // namespace tumble
+} // namespace tumble::art

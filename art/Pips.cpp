@@ -8,7 +8,7 @@
 #include <cmath>
 #include <span>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -106,4 +106,4 @@ void paintSinglePips(const Drawing& drawing, int rank, Suit suit) {
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -113,4 +113,4 @@ Path star(const Box& box) {
     return stretched(completed(outline("M0 -10 L2.4 -3.1 L10 -3 L4 1.6 L6.2 9.4 L0 4.8")), box);
 }
 
-} // namespace tumble
+} // namespace tumble::art

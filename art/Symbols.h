@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 enum class Suit { Clubs, Diamonds, Hearts, Spades };
 inline constexpr int suitCount = 4;
@@ -25,4 +25,4 @@ Path smallSuitSymbol(Suit suit, const PixelRect& pixels);
 /// A star of five points stretched into a box.
 Path star(const Box& box);
 
-} // namespace tumble
+} // namespace tumble::art

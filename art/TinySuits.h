@@ -5,7 +5,7 @@
 #include <array>
 #include <string_view>
 
-namespace tumble {
+namespace tumble::art {
 
 /// The suits in so few pixels that each counts, row by row: clubs, diamonds, hearts, spades.
 struct TinySuits {
@@ -184,4 +184,4 @@ inline constexpr std::array tinySuits = {
 };
 // clang-format on
 
-} // namespace tumble
+} // namespace tumble::art

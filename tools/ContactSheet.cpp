@@ -15,7 +15,7 @@
 #include <stdexcept>
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -113,7 +113,7 @@ void save(const QImage& image, const std::filesystem::path& file) {
 
 } // namespace
 
-} // namespace tumble
+} // namespace tumble::art
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -123,8 +123,8 @@ int main(int argc, char** argv) {
     try {
         const std::filesystem::path folder = argv[1];
         std::filesystem::create_directories(folder);
-        tumble::save(tumble::stacked({tumble::sheet(1), tumble::sheet(2), tumble::sheet(4)}), folder / "cards.png");
-        tumble::save(tumble::slivers(), folder / "slivers.png");
+        tumble::art::save(tumble::art::stacked({tumble::art::sheet(1), tumble::art::sheet(2), tumble::art::sheet(4)}), folder / "cards.png");
+        tumble::art::save(tumble::art::slivers(), folder / "slivers.png");
     } catch (const std::exception& error) {
         std::cerr << "contact-sheet: " << error.what() << '\n';
         return 1;

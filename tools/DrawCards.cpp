@@ -14,7 +14,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -52,7 +52,7 @@ void writeIcons(const std::filesystem::path& folder) {
 
 } // namespace
 
-} // namespace tumble
+} // namespace tumble::art
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -61,8 +61,8 @@ int main(int argc, char** argv) {
     }
     try {
         const std::filesystem::path folder = argv[1];
-        tumble::writePictures(folder);
-        tumble::writeIcons(folder / "icons");
+        tumble::art::writePictures(folder);
+        tumble::art::writeIcons(folder / "icons");
     } catch (const std::exception& error) {
         std::cerr << "draw-cards: " << error.what() << '\n';
         return 1;

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -77,4 +77,4 @@ void writeGif(const QImage& picture, const std::vector<Colour>& colours, const s
     check(written && closed, file);
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -56,4 +56,4 @@ void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -175,4 +175,4 @@ TEST(Pictures, SliversOfAnyTwoFacesDiffer) {
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art
