@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/base/Geometry.h"
-#include "platform/base/Path.h"
+#include "platform/paint/Canvas.h"
 
 #include <vector>
 
@@ -11,11 +10,17 @@ namespace tumble::art {
 inline constexpr int iconWidth = 32;
 
 struct Shape {
-    Path outline;
+    Path path;
     Colour colour;
 };
 
-/// What the icon consists of when it is large.
+/// The shapes of a large icon, in its own coordinates.
 std::vector<Shape> iconShapes();
+
+/// Draws the icon over what the canvas shows, with a margin of so many pixels.
+void drawIcon(Canvas& canvas, int margin = 0);
+
+/// 16 colours for the icon on white.
+std::vector<Colour> iconPalette();
 
 } // namespace tumble::art

@@ -6,7 +6,7 @@ namespace tumble::art {
 
 namespace {
 
-/// A mixture of black, red, yellow and white in the given parts.
+/// A mixture in so many parts of each colour; black adds nothing to a channel.
 Colour mixture(int blacks, int reds, int yellows, int whites) {
     const int parts = blacks + reds + yellows + whites;
     const auto mixed = [&](std::size_t channel) {
@@ -18,7 +18,7 @@ Colour mixture(int blacks, int reds, int yellows, int whites) {
 
 } // namespace
 
-std::vector<Colour> faceColours() {
+std::vector<Colour> facePalette() {
     constexpr int parts = 9;
     constexpr int fineParts = 19;
     std::vector<Colour> colours;
@@ -36,7 +36,7 @@ std::vector<Colour> faceColours() {
     return colours;
 }
 
-std::vector<Colour> suitColours() {
+std::vector<Colour> suitPalette() {
     constexpr int parts = 7;
     std::vector<Colour> colours = {white};
     for (int ink = 1; ink <= parts; ++ink) {

@@ -91,14 +91,14 @@ TEST(PictureTest, IsDrawnAtAnySize) {
 TEST(GlyphTest, StraightStrokesHaveTheirEdgesOnWholePixels) {
     for (const char character : std::string("A234567890JQKOER")) {
         for (int width = 4; width < 40; ++width) {
-            const auto& [line, pen] = art::glyph(character, {width, width * 13 / 8});
-            ASSERT_GE(pen, 1);
+            const auto& [centreLine, strokeWidth] = art::glyph(character, {width, width * 13 / 8});
+            ASSERT_GE(strokeWidth, 1);
             int strokes = 0;
             Vec2 from;
-            for (const auto& [verb, to, bends] : line.steps()) {
+            for (const auto& [verb, to, bends] : centreLine.steps()) {
                 for (const auto& [before, after] : {std::pair(from.x, to.x), std::pair(from.y, to.y)}) {
                     if (verb == Path::Verb::Line && before == after) {
-                        EXPECT_EQ(std::fmod(after - pen / 2.0, 1), 0) << character << " " << width << " wide";
+                        EXPECT_EQ(std::fmod(after - strokeWidth / 2.0, 1), 0) << character << " " << width << " wide";
                         ++strokes;
                     }
                 }

@@ -1,5 +1,6 @@
 // Writes pictures on which a person can judge the cards: contact-sheet OUTPUT-FOLDER
 
+#include "art/CardCoordinates.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 
@@ -88,11 +89,11 @@ QImage slivers() {
 /// As many colours as fit into a small file.
 QImage reduced(const QImage& image) {
     constexpr std::size_t inks = 240;
-    std::vector<Colour> colours = pictureColours(0);
+    std::vector<Colour> colours = picturePalette(0);
     colours.resize(inks);
     colours.push_back(ground);
     for (int back = firstBackPicture; back < pictureCount; ++back) {
-        const std::vector<Colour> table = pictureColours(back);
+        const std::vector<Colour> table = picturePalette(back);
         colours.insert(colours.end(), table.begin(), table.begin() + 3);
     }
     QList<QRgb> palette;
@@ -123,7 +124,8 @@ int main(int argc, char** argv) {
     try {
         const std::filesystem::path folder = argv[1];
         std::filesystem::create_directories(folder);
-        tumble::art::save(tumble::art::stacked({tumble::art::sheet(1), tumble::art::sheet(2), tumble::art::sheet(4)}), folder / "cards.png");
+        tumble::art::save(tumble::art::stacked({tumble::art::sheet(1), tumble::art::sheet(2), tumble::art::sheet(4)}),
+                          folder / "cards.png");
         tumble::art::save(tumble::art::slivers(), folder / "slivers.png");
     } catch (const std::exception& error) {
         std::cerr << "contact-sheet: " << error.what() << '\n';

@@ -1,5 +1,6 @@
 // Writes the pictures of the cards and the icon as GIF files, and the icon in other sizes: draw-cards OUTPUT-FOLDER
 
+#include "art/CardCoordinates.h"
 #include "art/Icon.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
@@ -23,11 +24,11 @@ void writePictures(const std::filesystem::path& folder) {
     for (int picture = 0; picture < pictureCount; ++picture) {
         QtCanvas card(cardSize, rgb(255, 255, 255));
         drawPicture(picture, card);
-        writeGif(card.image(), pictureColours(picture), folder / (pictureKey(picture) + ".gif"));
+        writeGif(card.image(), picturePalette(picture), folder / (pictureKey(picture) + ".gif"));
     }
     QtCanvas icon({iconWidth, iconWidth}, rgb(255, 255, 255));
     drawIcon(icon);
-    writeGif(icon.image(), iconColours(), folder / "tumble.gif");
+    writeGif(icon.image(), iconPalette(), folder / "tumble.gif");
 }
 
 void writeIcons(const std::filesystem::path& folder) {

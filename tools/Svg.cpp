@@ -47,7 +47,7 @@ void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem
     std::ofstream out(file);
     out << R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 )" << width << ' ' << width << "\">\n";
     for (const Shape& shape : shapes) {
-        out << R"(<path fill=")" << toQColor(shape.colour).name().toStdString() << R"(" d=")" << commands(shape.outline)
+        out << R"(<path fill=")" << toQColor(shape.colour).name().toStdString() << R"(" d=")" << commands(shape.path)
             << "\"/>\n";
     }
     out << "</svg>\n";

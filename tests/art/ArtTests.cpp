@@ -1,3 +1,4 @@
+#include "art/Icon.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 

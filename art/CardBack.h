@@ -10,6 +10,6 @@ namespace tumble::art {
 void drawBack(int colouring, Canvas& canvas);
 
 /// The three colours of a back: the ground and those of the two motifs.
-std::vector<Colour> backColours(int colouring);
+std::vector<Colour> backPalette(int colouring);
 
 } // namespace tumble::art
