@@ -2,6 +2,7 @@
 
 #include "platform/paint/Canvas.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace tumble::art {
@@ -9,7 +10,7 @@ namespace tumble::art {
 /// Pixels as text, a character for each, row after row.
 struct Bitmap {
     std::string_view text;
-    int stride; ///< The characters from the beginning of one row to that of the next.
+    std::size_t stride; ///< The characters from the beginning of one row to that of the next.
 };
 
 /// Paints the pixels that bear a mark in the bitmap. The block of pixels is as large as the bitmap.

@@ -48,7 +48,7 @@ constexpr PathData petals =
     "M-0.5 -1.5 L0.5 -1.5 L0.5 -2 L2.5 -4 L2.5 -5 L1 -6.5 L-1 -6.5 L-2.5 -5 L-2.5 -4 L-0.5 -2 Z "
     "M-1.5 -0.5 L-2 -0.5 L-4 -2.5 L-5 -2.5 L-6.5 -1 L-6.5 1 L-5 2.5 L-4 2.5 L-2 0.5 L-1.5 0.5 Z "
     "M-5.5 -5.5 L-3.5 -5.5 L-3.5 -3.5 L-5.5 -3.5 Z";
-constexpr PathData heart = "M0 -1.5 L1.5 0 L0 1.5 L-1.5 0 Z";
+constexpr PathData flowerCentre = "M0 -1.5 L1.5 0 L0 1.5 L-1.5 0 Z";
 constexpr PathData knot = "M-0.5 -2 L0.5 -2 L2 -0.5 L2 0.5 L0.5 2 L-0.5 2 L-2 0.5 L-2 -0.5 Z"; // where four tiles meet
 
 constexpr Bitmap flowerBitmap{"........"
@@ -103,7 +103,7 @@ void drawBack(int colouring, Canvas& canvas) {
     const PixelSize knotHalf{static_cast<int>(std::ceil(pitch.width * knotWidth / tile / 2)),
                              static_cast<int>(std::ceil(pitch.height * knotWidth / tile / 2))};
     const auto flowers =
-        motif(canvas, {{petals, '#', flowerColour}, {heart, 'o', knotColour}}, flowerBitmap, pitch, pitch);
+        motif(canvas, {{petals, '#', flowerColour}, {flowerCentre, 'o', knotColour}}, flowerBitmap, pitch, pitch);
     const auto knots =
         motif(canvas, {{knot, 'o', knotColour}}, knotBitmap, {knotHalf.width * 2, knotHalf.height * 2}, pitch);
     const PixelPoint first{(width - pitch.width * columns) / 2, (height - pitch.height * rows) / 2};
@@ -119,8 +119,8 @@ void drawBack(int colouring, Canvas& canvas) {
 }
 
 std::vector<Colour> backPalette(int colouring) {
-    const auto& [ground, flower, knot] = colourings.at(static_cast<std::size_t>(colouring));
-    return {ground, flower, knot};
+    const auto& [ground, flowerColour, knotColour] = colourings.at(static_cast<std::size_t>(colouring));
+    return {ground, flowerColour, knotColour};
 }
 
 } // namespace tumble::art

@@ -20,13 +20,14 @@ struct Repeat {
     double stepY;
 };
 
+/// In card units.
 constexpr std::array<Repeat, 6> repeats = {{
-    {"", 4, 4},
-    {"M-1 -4 L1 -4 L1 4 L-1 4 Z M3 -4 L5 -4 L5 4 L3 4 Z", 8, 4},
-    {"M0 -2.4 L1.9 0 L0 2.4 L-1.9 0 Z", 5, 3.1},
-    {"O 0 0 1.1", 5, 3},
-    {"M-2.5 0 L0 2 L2.5 0 L2.5 1.8 L0 3.8 L-2.5 1.8 Z", 5, 4},
-    {"M0 -1.6 L0.6 0 L1.2 1.4 L0 1 L-1.2 1.4 L-0.6 0 Z", 7, 3},
+    {"", 4, 4},                                                  // Plain
+    {"M-1 -4 L1 -4 L1 4 L-1 4 Z M3 -4 L5 -4 L5 4 L3 4 Z", 8, 4}, // Stripes
+    {"M0 -2.4 L1.9 0 L0 2.4 L-1.9 0 Z", 5, 3.1},                 // Lozenges
+    {"O 0 0 1.1", 5, 3},                                         // Dots
+    {"M-2.5 0 L0 2 L2.5 0 L2.5 1.8 L0 3.8 L-2.5 1.8 Z", 5, 4},   // Chevrons
+    {"M0 -1.6 L0.6 0 L1.2 1.4 L0 1 L-1.2 1.4 L-0.6 0 Z", 7, 3},  // Ermine
 }};
 
 /// Fills a shape with a texture of the pattern. The texture is a whole number of pixels wide and high.

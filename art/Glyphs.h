@@ -6,7 +6,7 @@
 namespace tumble::art {
 
 /// A character of the stroke font, in pixels. The strokes are a whole number of pixels wide; upright and level ones lie
-/// on whole pixels. Some strokes run over the edge of the glyph's box, where they are to be clipped.
+/// on whole pixels. Some strokes cross the edge of the glyph's box: the painter clips them.
 struct Glyph {
     Path centreLine;
     int strokeWidth;

@@ -9,7 +9,7 @@ namespace tumble::art {
 namespace {
 
 /// Maps one coordinate of a design to pixels, linearly between the strokes that are fitted to the grid. The outermost
-/// strokes touch the ends of the glyph; as much again beyond either end is scaled evenly.
+/// strokes touch the ends of the glyph. Beyond each end, at most a glyph's length away, the scale is even.
 class AxisHints {
 public:
     AxisHints(double designed, double designedStroke, double length, double stroke)

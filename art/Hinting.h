@@ -11,9 +11,9 @@ struct GlyphMetrics {
     double strokeWidth;
 };
 
-/// Scales the centre lines of a design to pixels, fitted to the grid: straight level and upright strokes, and the
-/// extremes of curves, get their edges on whole pixels; what lies between moves along. The metrics in pixels are whole
-/// numbers.
+/// Scales the centre lines of a design to pixels and fits them to the pixel grid. Straight level and upright strokes,
+/// and the extremes of curves, get their edges on whole pixels; the places between are interpolated. The metrics in
+/// pixels are whole numbers.
 Path hinted(const Path& design, const GlyphMetrics& designed, const GlyphMetrics& pixels);
 
 } // namespace tumble::art

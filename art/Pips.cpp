@@ -49,13 +49,13 @@ bool isPaired(int rank, Vec2 pip) {
     return pip.y < centre && !(rank == 7 && pip.x == middle);
 }
 
-/// The number of pixels nearest to a length that leaves the same number on both sides, in the middle of a whole.
+/// The whole number of pixels nearest to a length that can be centred in the whole: the rest is even.
 int centrable(double length, int whole) {
     return whole - 2 * static_cast<int>(std::lround((whole - length) / 2));
 }
 
-/// The first pixel of a length about a place. Places that mirror each other about the middle of the whole give lengths
-/// that do so exactly.
+/// The first pixel of a length about a place. The lengths about a place and about its mirror image in the whole are
+/// mirror images, too, whichever way the place is rounded.
 int firstPixel(double place, int length, int whole) {
     const bool isMirrored = place > whole / 2.0;
     const int first = static_cast<int>(std::lround((isMirrored ? whole - place : place) - length / 2.0));

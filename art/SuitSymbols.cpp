@@ -100,9 +100,9 @@ void paintSuit(Canvas& canvas, Suit suit, const PixelRect& pixels) {
     const auto* bitmaps =
         std::find_if(suitBitmaps.begin(), suitBitmaps.end(), [size](const auto& each) { return each.size == size; });
     if (bitmaps != suitBitmaps.end()) {
-        const int step = size.width + 1;
-        const auto first = static_cast<std::size_t>(static_cast<int>(suit) * step);
-        paintBitmap(canvas, {bitmaps->text.substr(first), suitCount * step}, '#', pixels, suitColour(suit));
+        const std::size_t step = static_cast<std::size_t>(size.width) + 1;
+        const Bitmap bitmap{bitmaps->text.substr(static_cast<std::size_t>(suit) * step), suitCount * step};
+        paintBitmap(canvas, bitmap, '#', pixels, suitColour(suit));
     } else {
         const auto few = size.width < leastWidth ? std::optional(size) : std::nullopt;
         canvas.fill(stretched(shape(suit, few), toBox(pixels)), {}, suitColour(suit));

@@ -69,7 +69,7 @@ TEST(PictureCacheTest, KeepsWhatIsUsed) {
     EXPECT_EQ(madeFor(2), 1) << "used long ago";
 }
 
-// Without a toolkit's smoothing: every picture fills any canvas, and shows more than its ground.
+// Without antialiasing. Every picture fills any canvas and shows more than its ground.
 TEST(PictureTest, IsDrawnAtAnySize) {
     for (const PixelSize size : {PixelSize{1, 1}, {2, 3}, {7, 5}, {83, 128}}) {
         for (int picture = 0; picture < art::pictureCount; ++picture) {

@@ -1,4 +1,4 @@
-// Writes pictures on which a person can judge the cards: contact-sheet OUTPUT-FOLDER
+// Writes contact sheets of the cards for a person to judge: contact-sheet OUTPUT-FOLDER
 
 #include "art/CardCoordinates.h"
 #include "art/Pictures.h"
@@ -38,7 +38,7 @@ QImage emptySheet(QSize size) {
     return image;
 }
 
-/// All pictures at a whole multiple of their size, a suit in each row.
+/// All pictures at a whole multiple of the designed size, a suit in each row.
 QImage sheet(int scale) {
     const QSize size(cardSize.width * scale, cardSize.height * scale);
     const QSize step = size + QSize(gap, gap);
@@ -52,7 +52,7 @@ QImage sheet(int scale) {
     return image;
 }
 
-/// One below the other.
+/// The images one below the other.
 QImage stacked(const std::vector<QImage>& images) {
     QSize size(0, 0);
     for (const QImage& image : images) {
@@ -68,7 +68,7 @@ QImage stacked(const std::vector<QImage>& images) {
     return whole;
 }
 
-/// What a spread shows of the faces, at three sizes of the card: magnified, and as it is.
+/// The parts of the faces that a spread leaves uncovered, at three sizes of the card: magnified, and as they are.
 QImage slivers() {
     constexpr int magnified = 3;
     constexpr QSize strip(10, 66);
@@ -86,11 +86,11 @@ QImage slivers() {
     return stacked(rows);
 }
 
-/// As many colours as fit into a small file.
+/// The image in 256 colours or fewer, for a small file.
 QImage reduced(const QImage& image) {
-    constexpr std::size_t inks = 240;
+    constexpr std::size_t faceColours = 240;
     std::vector<Colour> colours = picturePalette(0);
-    colours.resize(inks);
+    colours.resize(faceColours);
     colours.push_back(ground);
     for (int back = firstBackPicture; back < pictureCount; ++back) {
         const std::vector<Colour> table = picturePalette(back);

@@ -45,7 +45,7 @@ void writeIcons(const std::filesystem::path& folder) {
     for (const int width : {16, 24, 32, 48, 64, 128, 192, 256, 512}) {
         write("tumble-", width, {}, 0);
     }
-    // For launchers that cut it to shapes of theirs, which contain a circle of four fifths of the width.
+    // Launchers crop maskable icons to shapes that contain a circle of four fifths of the width.
     for (const int width : {192, 512}) {
         write("tumble-maskable-", width, rgb(255, 255, 255), width * 3 / 16);
     }
