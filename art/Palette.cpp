@@ -10,7 +10,7 @@ namespace {
 Colour mixture(int blacks, int reds, int yellows, int whites) {
     const int parts = blacks + reds + yellows + whites;
     const auto mixed = [&](std::size_t channel) {
-        const auto of = [channel](Colour ink) { return channels(ink).at(channel); };
+        const auto of = [channel](Colour colour) { return channels(colour).at(channel); };
         return (reds * of(red) + yellows * of(yellow) + whites * of(white) + parts / 2) / parts;
     };
     return rgb(mixed(0), mixed(1), mixed(2));
@@ -29,9 +29,9 @@ std::vector<Colour> facePalette() {
             }
         }
     }
-    for (int ink = 1; ink < fineParts; ++ink) {
-        colours.push_back(mixture(ink, 0, 0, fineParts - ink));
-        colours.push_back(mixture(0, ink, 0, fineParts - ink));
+    for (int part = 1; part < fineParts; ++part) {
+        colours.push_back(mixture(part, 0, 0, fineParts - part));
+        colours.push_back(mixture(0, part, 0, fineParts - part));
     }
     return colours;
 }
@@ -39,9 +39,9 @@ std::vector<Colour> facePalette() {
 std::vector<Colour> suitPalette() {
     constexpr int parts = 7;
     std::vector<Colour> colours = {white};
-    for (int ink = 1; ink <= parts; ++ink) {
-        colours.push_back(mixture(ink, 0, 0, parts - ink));
-        colours.push_back(mixture(0, ink, 0, parts - ink));
+    for (int part = 1; part <= parts; ++part) {
+        colours.push_back(mixture(part, 0, 0, parts - part));
+        colours.push_back(mixture(0, part, 0, parts - part));
     }
     return colours;
 }
