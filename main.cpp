@@ -6,7 +6,7 @@
 int main() {
     const tumble::Display display;
     tumble::QtDesktop desktop(tumble::application(), [](const auto& picture, auto& canvas) {
-        return tumble::drawPicture(picture.Key, canvas);
+        return tumble::art::drawPicture(picture.Key, canvas);
     });
     tumble::MainMod mainMod;
     mainMod.Main();

@@ -1,19 +1,22 @@
 #pragma once
 
 #include "platform/base/Path.h"
-#include "platform/base/Pixels.h"
+#include "platform/paint/Canvas.h"
 
-namespace tumble {
+namespace tumble::art {
 
-/// A letter of "AJQKOER", a digit from 2 to 9 or the ten, written '0', as the middle line of a pen, in pixels.
-/// The pen is a whole number of pixels wide, and the upright and level strokes lie on whole pixels.
-/// Some strokes run over the edge of the box, where they are to be cut straight.
+/// A character of the stroke font, in pixels. The strokes are a whole number of pixels wide; upright and level ones lie
+/// on whole pixels. Some strokes cross the edge of the glyph's box: the painter clips them.
 struct Glyph {
-    Path line;
-    int pen;
+    Path centreLine;
+    int strokeWidth;
 };
 
-/// The glyph that fills a box of that size, whose upper left corner is the origin.
+/// The glyph that fills a box of that size, whose upper left corner is the origin. The font has the letters of
+/// "AJQKOER", the digits from 2 to 9, and the ten as '0'.
 Glyph glyph(char character, PixelSize size);
 
-} // namespace tumble
+/// Paints a glyph that fills a block of pixels.
+void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour);
+
+} // namespace tumble::art

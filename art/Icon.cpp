@@ -1,59 +1,66 @@
 #include "art/Icon.h"
 
-#include "art/CardDrawing.h"
-#include "art/Pictures.h"
+#include "art/Palette.h"
+#include "art/SuitSymbols.h"
 
 #include <array>
 #include <cmath>
-#include <utility>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
-constexpr double boxWidth = 14;
-constexpr std::array suits = {
-    std::pair(Suit::Hearts, Vec2{1, 1}),
-    std::pair(Suit::Clubs, Vec2{17, 1}),
-    std::pair(Suit::Spades, Vec2{1, 17}),
-    std::pair(Suit::Diamonds, Vec2{17, 17}),
+constexpr double suitWidth = 14;
+
+struct Quadrant {
+    Suit suit;
+    bool right;
+    bool lower;
 };
 
-int inPixels(double length, int side) {
-    return static_cast<int>(std::lround(length * side / iconWidth));
-}
+constexpr std::array<Quadrant, suitCount> quadrants = {{
+    {Suit::Hearts, false, false},
+    {Suit::Clubs, true, false},
+    {Suit::Spades, false, true},
+    {Suit::Diamonds, true, true},
+}};
 
-/// Where a suit's box begins on a side of the icon; those of the second row or column are as far from its end.
-int along(double place, int side) {
-    const int margin = side / iconWidth;
-    return place < iconWidth / 2.0 ? margin : side - margin - inPixels(boxWidth, side);
+/// The pixels of a suit in an icon of that size. All suits are equally far from the edges next to them.
+PixelRect suitPixels(const Quadrant& quadrant, PixelSize icon) {
+    const auto length = [](int side) { return static_cast<int>(std::lround(suitWidth * side / iconWidth)); };
+    const auto first = [&](bool isSecond, int side) {
+        const int margin = side / iconWidth;
+        return isSecond ? side - margin - length(side) : margin;
+    };
+    const PixelSize size{length(icon.width), length(icon.height)};
+    return size.at({first(quadrant.right, icon.width), first(quadrant.lower, icon.height)});
 }
 
 } // namespace
 
 std::vector<Shape> iconShapes() {
     std::vector<Shape> shapes;
-    shapes.reserve(suits.size());
-    for (const auto& [suit, corner] : suits) {
-        shapes.push_back({suitSymbol(suit, {corner, boxWidth, boxWidth}), suitColour(suit)});
+    shapes.reserve(quadrants.size());
+    for (const Quadrant& quadrant : quadrants) {
+        const Box box = toBox(suitPixels(quadrant, {iconWidth, iconWidth}));
+        shapes.push_back({suitSymbol(quadrant.suit, box), suitColour(quadrant.suit)});
     }
     return shapes;
 }
 
 void drawIcon(Canvas& canvas, int margin) {
-    const int width = canvas.size().width - 2 * margin;
-    const int height = canvas.size().height - 2 * margin;
-    const PixelSize size{inPixels(boxWidth, width), inPixels(boxWidth, height)};
-    for (const auto& [suit, corner] : suits) {
-        paintSuit(canvas, suit, size.at({margin + along(corner.x, width), margin + along(corner.y, height)}));
+    const PixelSize size = canvas.bounds().inset(margin, margin).size();
+    for (const Quadrant& quadrant : quadrants) {
+        const PixelRect pixels = suitPixels(quadrant, size);
+        paintSuit(canvas, quadrant.suit, pixels.size().at({pixels.left + margin, pixels.top + margin}));
     }
 }
 
-std::vector<Colour> iconColours() {
+std::vector<Colour> iconPalette() {
     constexpr std::size_t tableSize = 16;
-    std::vector<Colour> colours = suitColours();
+    std::vector<Colour> colours = suitPalette();
     colours.resize(tableSize, black);
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -1,21 +1,26 @@
 #pragma once
 
-#include "platform/base/Geometry.h"
-#include "platform/base/Path.h"
+#include "platform/paint/Canvas.h"
 
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 /// The width, and height, of the icon in its own coordinates.
 inline constexpr int iconWidth = 32;
 
 struct Shape {
-    Path outline;
+    Path path;
     Colour colour;
 };
 
-/// What the icon consists of when it is large.
+/// The shapes of a large icon, in its own coordinates.
 std::vector<Shape> iconShapes();
 
-} // namespace tumble
+/// Draws the icon over what the canvas shows, with a margin of so many pixels.
+void drawIcon(Canvas& canvas, int margin = 0);
+
+/// 16 colours for the icon on white.
+std::vector<Colour> iconPalette();
+
+} // namespace tumble::art

@@ -2,12 +2,9 @@
 
 #include "platform/paint/Canvas.h"
 
-namespace tumble {
+namespace tumble::art {
 
-/// Paints the joker's mark in the upper left corner.
-void paintJokerMark(const Drawing& drawing);
-
-/// Paints the jester, who juggles the suits.
+/// Paints the jester of the joker, who juggles the suits.
 void paintJester(const Drawing& drawing);
 
-} // namespace tumble
+} // namespace tumble::art

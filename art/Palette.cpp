@@ -2,15 +2,15 @@
 
 #include <cstddef>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
-/// A mixture of black, red, yellow and white in the given parts.
+/// A mixture in so many parts of each colour; black adds nothing to a channel.
 Colour mixture(int blacks, int reds, int yellows, int whites) {
     const int parts = blacks + reds + yellows + whites;
     const auto mixed = [&](std::size_t channel) {
-        const auto of = [channel](Colour ink) { return channels(ink).at(channel); };
+        const auto of = [channel](Colour colour) { return channels(colour).at(channel); };
         return (reds * of(red) + yellows * of(yellow) + whites * of(white) + parts / 2) / parts;
     };
     return rgb(mixed(0), mixed(1), mixed(2));
@@ -18,7 +18,7 @@ Colour mixture(int blacks, int reds, int yellows, int whites) {
 
 } // namespace
 
-std::vector<Colour> faceColours() {
+std::vector<Colour> facePalette() {
     constexpr int parts = 9;
     constexpr int fineParts = 19;
     std::vector<Colour> colours;
@@ -29,21 +29,21 @@ std::vector<Colour> faceColours() {
             }
         }
     }
-    for (int ink = 1; ink < fineParts; ++ink) {
-        colours.push_back(mixture(ink, 0, 0, fineParts - ink));
-        colours.push_back(mixture(0, ink, 0, fineParts - ink));
+    for (int part = 1; part < fineParts; ++part) {
+        colours.push_back(mixture(part, 0, 0, fineParts - part));
+        colours.push_back(mixture(0, part, 0, fineParts - part));
     }
     return colours;
 }
 
-std::vector<Colour> suitColours() {
+std::vector<Colour> suitPalette() {
     constexpr int parts = 7;
     std::vector<Colour> colours = {white};
-    for (int ink = 1; ink <= parts; ++ink) {
-        colours.push_back(mixture(ink, 0, 0, parts - ink));
-        colours.push_back(mixture(0, ink, 0, parts - ink));
+    for (int part = 1; part <= parts; ++part) {
+        colours.push_back(mixture(part, 0, 0, parts - part));
+        colours.push_back(mixture(0, part, 0, parts - part));
     }
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -1,15 +1,18 @@
 #include "art/Pictures.h"
 
-#include "art/Back.h"
-#include "art/CardDrawing.h"
-#include "art/Courts.h"
+#include "art/CardBack.h"
+#include "art/CardCoordinates.h"
+#include "art/CornerIndex.h"
+#include "art/CourtCards.h"
+#include "art/Icon.h"
 #include "art/Joker.h"
 #include "art/Palette.h"
 #include "art/Pips.h"
+#include "art/Symmetry.h"
 
 #include <array>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -21,34 +24,23 @@ Suit suitOf(int picture) {
     return static_cast<Suit>(picture % suitCount);
 }
 
-bool isCourt(int picture) {
-    return picture < faceCount && rankOf(picture) >= firstCourtRank;
+void drawCourtCard(const Drawing& drawing, int rank, Suit suit) {
+    paintIndex(drawing, rank, suit);
+    paintCourtHalf(drawing, rank, suit);
+    rotateUpperHalf(drawing.canvas, courtDividerSlope(drawing.canvas.size()));
 }
 
-bool isBack(int picture) {
-    return picture >= firstBackPicture;
+void drawPipCard(const Drawing& drawing, int rank, Suit suit) {
+    paintIndex(drawing, rank, suit);
+    paintPairedPips(drawing, rank, suit);
+    rotateUpperHalf(drawing.canvas, 0);
+    paintSinglePips(drawing, rank, suit);
 }
 
-/// Paints what the lower half shows upside down, as far as it lies above the middle.
-void paintUpperHalf(const Drawing& drawing, int picture) {
-    if (picture == jokerPicture) {
-        paintJokerMark(drawing);
-        return;
-    }
-    paintIndex(drawing, rankOf(picture), suitOf(picture));
-    if (isCourt(picture)) {
-        paintCourt(drawing, rankOf(picture), suitOf(picture));
-    } else {
-        paintPairedPips(drawing, rankOf(picture), suitOf(picture));
-    }
-}
-
-void paintRest(const Drawing& drawing, int picture) {
-    if (picture == jokerPicture) {
-        paintJester(drawing);
-    } else if (!isCourt(picture)) {
-        paintSinglePips(drawing, rankOf(picture), suitOf(picture));
-    }
+void drawJoker(const Drawing& drawing) {
+    paintJokerIndex(drawing);
+    rotateUpperHalf(drawing.canvas, 0);
+    paintJester(drawing);
 }
 
 } // namespace
@@ -57,7 +49,7 @@ std::string pictureKey(int picture) {
     static constexpr std::array ranks = {"Ace",   "Two",  "Three", "Four", "Five",  "Six", "Seven",
                                          "Eight", "Nine", "Ten",   "Jack", "Queen", "King"};
     static constexpr std::array suits = {"Clubs", "Diamonds", "Hearts", "Spades"};
-    if (isBack(picture)) {
+    if (picture >= firstBackPicture) {
         return "CardBack" + std::to_string(picture - firstBackPicture + 1);
     }
     if (picture == jokerPicture) {
@@ -68,16 +60,18 @@ std::string pictureKey(int picture) {
 }
 
 void drawPicture(int picture, Canvas& canvas) {
-    if (isBack(picture)) {
-        drawBack(picture - firstBackPicture, canvas);
-        return;
-    }
-    const PixelSize size = canvas.size();
-    const Drawing drawing{canvas, Transform::scaling(size.width / cardWidth, size.height / cardHeight)};
+    const auto [width, height] = canvas.size();
+    const Drawing drawing{canvas, Transform::scaling(width / wholeCard.width, height / wholeCard.height)};
     canvas.fill(canvas.bounds(), white);
-    paintUpperHalf(drawing, picture);
-    repeatUpsideDown(canvas, isCourt(picture) ? courtFall(size) : 0);
-    paintRest(drawing, picture);
+    if (picture >= firstBackPicture) {
+        drawBack(picture - firstBackPicture, canvas);
+    } else if (picture == jokerPicture) {
+        drawJoker(drawing);
+    } else if (rankOf(picture) >= firstCourtRank) {
+        drawCourtCard(drawing, rankOf(picture), suitOf(picture));
+    } else {
+        drawPipCard(drawing, rankOf(picture), suitOf(picture));
+    }
 }
 
 bool drawPicture(std::string_view key, Canvas& canvas) {
@@ -87,18 +81,19 @@ bool drawPicture(std::string_view key, Canvas& canvas) {
             return true;
         }
     }
-    if (key == iconKey) {
+    const bool isIcon = key == "Tumble";
+    if (isIcon) {
         canvas.fill(canvas.bounds(), white);
         drawIcon(canvas);
     }
-    return key == iconKey;
+    return isIcon;
 }
 
-std::vector<Colour> pictureColours(int picture) {
+std::vector<Colour> picturePalette(int picture) {
     constexpr std::size_t tableSize = 256;
-    std::vector<Colour> colours = isBack(picture) ? backColours(picture - firstBackPicture) : faceColours();
+    std::vector<Colour> colours = picture >= firstBackPicture ? backPalette(picture - firstBackPicture) : facePalette();
     colours.resize(tableSize, black);
     return colours;
 }
 
-} // namespace tumble
+} // namespace tumble::art

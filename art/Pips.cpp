@@ -1,31 +1,31 @@
 #include "art/Pips.h"
 
-#include "art/CardDrawing.h"
-#include "art/Figure.h"
+#include "art/CardCoordinates.h"
+#include "art/Pieces.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <span>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
 constexpr Vec2 pipSize{15, 16};
 constexpr Vec2 acePipSize{33, 36};
 
-// The columns and rows of the pips of the upper half and the middle.
+// The columns and rows of pips, down to the middle of the card.
 constexpr double left = 22.5;
-constexpr double middle = cardWidth / 2;
-constexpr double right = cardWidth - left;
+constexpr double middle = wholeCard.width / 2;
+constexpr double right = wholeCard.width - left;
 constexpr double top = 18;
 constexpr double second = 48;
-constexpr double centre = cardHeight / 2;
+constexpr double centre = wholeCard.height / 2;
 constexpr double betweenTopAndSecond = (top + second) / 2;
 constexpr double betweenTopAndCentre = (top + centre) / 2;
 
-// The pips that stand upright, for the ranks from the ace to the ten.
+// The upright pips of the ranks from the ace to the ten.
 constexpr std::array ace = {Vec2{middle, centre}};
 constexpr std::array two = {Vec2{middle, top}};
 constexpr std::array three = {Vec2{middle, top}, Vec2{middle, centre}};
@@ -44,66 +44,70 @@ std::span<const Vec2> uprightPips(int rank) {
     return layouts.at(static_cast<std::size_t>(rank) - 1);
 }
 
-/// Whether the pip has its like in the lower half, upside down.
+/// True when the lower half repeats the pip upside down.
 bool isPaired(int rank, Vec2 pip) {
     return pip.y < centre && !(rank == 7 && pip.x == middle);
 }
 
-/// A number of pixels near a length, such that what is as long lies in the middle of the whole on whole pixels.
+/// The whole number of pixels nearest to a length that can be centred in the whole: the rest is even.
 int centrable(double length, int whole) {
     return whole - 2 * static_cast<int>(std::lround((whole - length) / 2));
 }
 
-/// Where a pip lies in pixels. All pips of a card are equally large, and columns and rows even about its middle.
+/// The first pixel of a length about a place. The lengths about a place and about its mirror image in the whole are
+/// mirror images, too, whichever way the place is rounded.
+int firstPixel(double place, int length, int whole) {
+    const bool isMirrored = place > whole / 2.0;
+    const int first = static_cast<int>(std::lround((isMirrored ? whole - place : place) - length / 2.0));
+    return isMirrored ? whole - length - first : first;
+}
+
+/// The pixels of a pip. All pips of a card are of one size, and columns and rows are symmetrical about its centre.
 PixelRect pipPixels(const Drawing& drawing, Vec2 pip, Vec2 size) {
-    const PixelRect card = fitted(drawing, wholeCard);
+    const PixelSize card = drawing.canvas.size();
     const Box exact = drawing.toPixels(Box{pip, size.x, size.y});
-    const PixelSize pixels{centrable(exact.width, card.width()), centrable(exact.height, card.height())};
-    const double nearer = std::min(exact.corner.x, card.width() - exact.corner.x);
-    const int x = pip.x == middle ? (card.width() - pixels.width) / 2
-                                  : static_cast<int>(std::lround(nearer - pixels.width / 2.0));
-    const int y = pip.y == centre ? (card.height() - pixels.height) / 2
-                                  : static_cast<int>(std::lround(exact.corner.y - pixels.height / 2.0));
-    return pixels.at({pip.x > middle ? card.width() - pixels.width - x : x, y});
+    const PixelSize pixels{centrable(exact.width, card.width), centrable(exact.height, card.height)};
+    return pixels.at(
+        {firstPixel(exact.corner.x, pixels.width, card.width), firstPixel(exact.corner.y, pixels.height, card.height)});
 }
 
-/// The inlay of the ace of spades: a rim that follows the spade, and a lily between scrolls. The origin is the middle.
-constexpr std::array inlay = {
-    Piece{Cloth::White, Form::Lines, "M0 -24 C6 -12 20 -6 20 8 C20 14 16 17.4 11.4 17.4 C7 17.4 3.4 15.4 1.6 11.4"},
-    Piece{Cloth::White, Form::Lines, "M1 9 C6 13.4 15 12 15 6.4 C15 2 9.4 2 9.4 5.4 C9.4 7.6 12 8 12.2 6"},
-    Piece{Cloth::White, Form::Whole,
-          "M0 -15 C3.4 -10 4 -6 1.6 -1 C4 -6.4 9.6 -6 9 -1.6 C8.6 1.4 5 1 5.4 -1 C3.6 -0.4 2.4 1.4 2.6 3.4 L0 9"},
-    Piece{Cloth::Black, Form::Line, "M-3.4 2.2 L3.4 2.2"},
-    Piece{Cloth::White, Form::Twins, "O 4.4 -11.4 0.9"},
-};
-
-/// A great spade, inlaid in white.
-void paintAceOfSpades(const Drawing& drawing) {
-    const Drawing card = drawing.moved({middle, centre});
-    card.canvas.fill(suitSymbol(Suit::Spades, {{-25, -32}, 50, 62}), card.toPixels, black);
-    paintPieces(card, inlay, dressed(white, {}, {}, {}, {}));
-}
-
-} // namespace
-
-void paintPairedPips(const Drawing& drawing, int rank, Suit suit) {
+void paintPips(const Drawing& drawing, int rank, Suit suit, bool paired) {
     for (const Vec2 pip : uprightPips(rank)) {
-        if (isPaired(rank, pip)) {
-            paintSuit(drawing.canvas, suit, pipPixels(drawing, pip, pipSize));
-        }
-    }
-}
-
-void paintSinglePips(const Drawing& drawing, int rank, Suit suit) {
-    if (rank == 1 && suit == Suit::Spades) {
-        paintAceOfSpades(drawing);
-        return;
-    }
-    for (const Vec2 pip : uprightPips(rank)) {
-        if (!isPaired(rank, pip)) {
+        if (isPaired(rank, pip) == paired) {
             paintSuit(drawing.canvas, suit, pipPixels(drawing, pip, rank == 1 ? acePipSize : pipSize));
         }
     }
 }
 
-} // namespace tumble
+/// The inlay of the ace of spades, about the centre of the card: a rim along the spade, and a lily between scrolls.
+constexpr std::array inlay = {
+    Piece{Material::White, Style::StrokePair,
+          "M0 -24 C6 -12 20 -6 20 8 C20 14 16 17.4 11.4 17.4 C7 17.4 3.4 15.4 1.6 11.4"},
+    Piece{Material::White, Style::StrokePair, "M1 9 C6 13.4 15 12 15 6.4 C15 2 9.4 2 9.4 5.4 C9.4 7.6 12 8 12.2 6"},
+    Piece{Material::White, Style::FillHalf,
+          "M0 -15 C3.4 -10 4 -6 1.6 -1 C4 -6.4 9.6 -6 9 -1.6 C8.6 1.4 5 1 5.4 -1 C3.6 -0.4 2.4 1.4 2.6 3.4 L0 9"},
+    Piece{Material::Black, Style::Stroke, "M-3.4 2.2 L3.4 2.2"},
+    Piece{Material::White, Style::FillPair, "O 4.4 -11.4 0.9"},
+};
+
+void paintAceOfSpades(const Drawing& drawing) {
+    const Drawing card = drawing.moved({middle, centre});
+    card.canvas.fill(suitSymbol(Suit::Spades, {{-25, -32}, 50, 62}), card.toPixels, black);
+    paintPieces(card, inlay, materials(white, {}, {}, {}, {}));
+}
+
+} // namespace
+
+void paintPairedPips(const Drawing& drawing, int rank, Suit suit) {
+    paintPips(drawing, rank, suit, true);
+}
+
+void paintSinglePips(const Drawing& drawing, int rank, Suit suit) {
+    if (rank == 1 && suit == Suit::Spades) {
+        paintAceOfSpades(drawing);
+    } else {
+        paintPips(drawing, rank, suit, false);
+    }
+}
+
+} // namespace tumble::art

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "art/Symbols.h"
+#include "art/SuitSymbols.h"
 #include "platform/paint/Canvas.h"
 
-namespace tumble {
+namespace tumble::art {
 
-/// Paints those pips of the upper half of a card, from the ace (1) to the ten, that the lower half has upside down.
+/// Paints the pips of a card, from the ace (1) to the ten, that the lower half repeats upside down.
 void paintPairedPips(const Drawing& drawing, int rank, Suit suit);
 
-/// Paints the other pips, which stand upright.
+/// Paints the other pips, all of them upright.
 void paintSinglePips(const Drawing& drawing, int rank, Suit suit);
 
-} // namespace tumble
+} // namespace tumble::art

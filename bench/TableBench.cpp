@@ -45,7 +45,7 @@ public:
 
 private:
     QtDesktop desktop_{application(),
-                       [](const auto& picture, auto& canvas) { return drawPicture(picture.Key, canvas); }};
+                       [](const auto& picture, auto& canvas) { return art::drawPicture(picture.Key, canvas); }};
 };
 
 /// A spread of 24, 52 or 104 cards.

@@ -19,7 +19,7 @@ constexpr Colour white = rgb(255, 255, 255);
 constexpr Colour red = rgb(255, 0, 0);
 
 bool draw(const Picture& picture, Canvas& canvas) {
-    return drawPicture(picture.Key, canvas);
+    return art::drawPicture(picture.Key, canvas);
 }
 
 TEST(PictureCacheTest, WhereThereIsNoPictureTheCrossedCardShows) {
@@ -69,12 +69,12 @@ TEST(PictureCacheTest, KeepsWhatIsUsed) {
     EXPECT_EQ(madeFor(2), 1) << "used long ago";
 }
 
-// Without a toolkit's smoothing: every picture fills any canvas, and shows more than its ground.
+// Without antialiasing. Every picture fills any canvas and shows more than its ground.
 TEST(PictureTest, IsDrawnAtAnySize) {
     for (const PixelSize size : {PixelSize{1, 1}, {2, 3}, {7, 5}, {83, 128}}) {
-        for (int picture = 0; picture < pictureCount; ++picture) {
+        for (int picture = 0; picture < art::pictureCount; ++picture) {
             Raster canvas(size, {});
-            ASSERT_TRUE(drawPicture(pictureKey(picture), canvas));
+            ASSERT_TRUE(art::drawPicture(art::pictureKey(picture), canvas));
             std::vector<Colour> colours;
             for (int y = 0; y < size.height; ++y) {
                 for (int x = 0; x < size.width; ++x) {
@@ -82,8 +82,8 @@ TEST(PictureTest, IsDrawnAtAnySize) {
                 }
             }
             std::sort(colours.begin(), colours.end());
-            EXPECT_NE(colours.front(), Raster::clear) << pictureKey(picture);
-            EXPECT_TRUE(size.width < 83 || colours.front() != colours.back()) << pictureKey(picture);
+            EXPECT_NE(colours.front(), Raster::clear) << art::pictureKey(picture);
+            EXPECT_TRUE(size.width < 83 || colours.front() != colours.back()) << art::pictureKey(picture);
         }
     }
 }
@@ -91,14 +91,14 @@ TEST(PictureTest, IsDrawnAtAnySize) {
 TEST(GlyphTest, StraightStrokesHaveTheirEdgesOnWholePixels) {
     for (const char character : std::string("A234567890JQKOER")) {
         for (int width = 4; width < 40; ++width) {
-            const auto& [line, pen] = glyph(character, {width, width * 13 / 8});
-            ASSERT_GE(pen, 1);
+            const auto& [centreLine, strokeWidth] = art::glyph(character, {width, width * 13 / 8});
+            ASSERT_GE(strokeWidth, 1);
             int strokes = 0;
             Vec2 from;
-            for (const auto& [verb, to, bends] : line.steps()) {
+            for (const auto& [verb, to, bends] : centreLine.steps()) {
                 for (const auto& [before, after] : {std::pair(from.x, to.x), std::pair(from.y, to.y)}) {
                     if (verb == Path::Verb::Line && before == after) {
-                        EXPECT_EQ(std::fmod(after - pen / 2.0, 1), 0) << character << " " << width << " wide";
+                        EXPECT_EQ(std::fmod(after - strokeWidth / 2.0, 1), 0) << character << " " << width << " wide";
                         ++strokes;
                     }
                 }

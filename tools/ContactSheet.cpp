@@ -1,5 +1,6 @@
-// Writes pictures on which a person can judge the cards: contact-sheet OUTPUT-FOLDER
+// Writes contact sheets of the cards for a person to judge: contact-sheet OUTPUT-FOLDER
 
+#include "art/CardCoordinates.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 
@@ -15,7 +16,7 @@
 #include <stdexcept>
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -37,7 +38,7 @@ QImage emptySheet(QSize size) {
     return image;
 }
 
-/// All pictures at a whole multiple of their size, a suit in each row.
+/// All pictures at a whole multiple of the designed size, a suit in each row.
 QImage sheet(int scale) {
     const QSize size(cardSize.width * scale, cardSize.height * scale);
     const QSize step = size + QSize(gap, gap);
@@ -51,7 +52,7 @@ QImage sheet(int scale) {
     return image;
 }
 
-/// One below the other.
+/// The images one below the other.
 QImage stacked(const std::vector<QImage>& images) {
     QSize size(0, 0);
     for (const QImage& image : images) {
@@ -67,7 +68,7 @@ QImage stacked(const std::vector<QImage>& images) {
     return whole;
 }
 
-/// What a spread shows of the faces, at three sizes of the card: magnified, and as it is.
+/// The parts of the faces that a spread leaves uncovered, at three sizes of the card: magnified, and as they are.
 QImage slivers() {
     constexpr int magnified = 3;
     constexpr QSize strip(10, 66);
@@ -85,14 +86,14 @@ QImage slivers() {
     return stacked(rows);
 }
 
-/// As many colours as fit into a small file.
+/// The image in 256 colours or fewer, for a small file.
 QImage reduced(const QImage& image) {
-    constexpr std::size_t inks = 240;
-    std::vector<Colour> colours = pictureColours(0);
-    colours.resize(inks);
+    constexpr std::size_t faceColours = 240;
+    std::vector<Colour> colours = picturePalette(0);
+    colours.resize(faceColours);
     colours.push_back(ground);
     for (int back = firstBackPicture; back < pictureCount; ++back) {
-        const std::vector<Colour> table = pictureColours(back);
+        const std::vector<Colour> table = picturePalette(back);
         colours.insert(colours.end(), table.begin(), table.begin() + 3);
     }
     QList<QRgb> palette;
@@ -113,7 +114,7 @@ void save(const QImage& image, const std::filesystem::path& file) {
 
 } // namespace
 
-} // namespace tumble
+} // namespace tumble::art
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -123,8 +124,9 @@ int main(int argc, char** argv) {
     try {
         const std::filesystem::path folder = argv[1];
         std::filesystem::create_directories(folder);
-        tumble::save(tumble::stacked({tumble::sheet(1), tumble::sheet(2), tumble::sheet(4)}), folder / "cards.png");
-        tumble::save(tumble::slivers(), folder / "slivers.png");
+        tumble::art::save(tumble::art::stacked({tumble::art::sheet(1), tumble::art::sheet(2), tumble::art::sheet(4)}),
+                          folder / "cards.png");
+        tumble::art::save(tumble::art::slivers(), folder / "slivers.png");
     } catch (const std::exception& error) {
         std::cerr << "contact-sheet: " << error.what() << '\n';
         return 1;

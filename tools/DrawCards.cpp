@@ -1,5 +1,6 @@
 // Writes the pictures of the cards and the icon as GIF files, and the icon in other sizes: draw-cards OUTPUT-FOLDER
 
+#include "art/CardCoordinates.h"
 #include "art/Icon.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
@@ -14,7 +15,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
@@ -23,11 +24,11 @@ void writePictures(const std::filesystem::path& folder) {
     for (int picture = 0; picture < pictureCount; ++picture) {
         QtCanvas card(cardSize, rgb(255, 255, 255));
         drawPicture(picture, card);
-        writeGif(card.image(), pictureColours(picture), folder / (pictureKey(picture) + ".gif"));
+        writeGif(card.image(), picturePalette(picture), folder / (pictureKey(picture) + ".gif"));
     }
     QtCanvas icon({iconWidth, iconWidth}, rgb(255, 255, 255));
     drawIcon(icon);
-    writeGif(icon.image(), iconColours(), folder / "tumble.gif");
+    writeGif(icon.image(), iconPalette(), folder / "tumble.gif");
 }
 
 void writeIcons(const std::filesystem::path& folder) {
@@ -44,7 +45,7 @@ void writeIcons(const std::filesystem::path& folder) {
     for (const int width : {16, 24, 32, 48, 64, 128, 192, 256, 512}) {
         write("tumble-", width, {}, 0);
     }
-    // For launchers that cut it to shapes of theirs, which contain a circle of four fifths of the width.
+    // Launchers crop maskable icons to shapes that contain a circle of four fifths of the width.
     for (const int width : {192, 512}) {
         write("tumble-maskable-", width, rgb(255, 255, 255), width * 3 / 16);
     }
@@ -52,7 +53,7 @@ void writeIcons(const std::filesystem::path& folder) {
 
 } // namespace
 
-} // namespace tumble
+} // namespace tumble::art
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -61,8 +62,8 @@ int main(int argc, char** argv) {
     }
     try {
         const std::filesystem::path folder = argv[1];
-        tumble::writePictures(folder);
-        tumble::writeIcons(folder / "icons");
+        tumble::art::writePictures(folder);
+        tumble::art::writeIcons(folder / "icons");
     } catch (const std::exception& error) {
         std::cerr << "draw-cards: " << error.what() << '\n';
         return 1;

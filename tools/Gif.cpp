@@ -7,11 +7,11 @@
 #include <stdexcept>
 #include <string>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
-/// How far apart two colours look. A difference in hue counts besides the one in the channels, so that grey stays grey.
+/// How different two colours look. A difference in hue counts besides those of the channels, so that grey stays grey.
 int distance(Colour a, Colour b) {
     const auto square = [](int value) { return value * value; };
     const auto [redA, greenA, blueA] = channels(a);
@@ -27,31 +27,21 @@ GifPixelType nearest(const std::vector<Colour>& colours, Colour pixel) {
     return static_cast<GifPixelType>(std::min_element(colours.begin(), colours.end(), closer) - colours.begin());
 }
 
-struct FreeColourMap {
-    void operator()(ColorMapObject* map) const { GifFreeMapObject(map); }
-};
-
-using ColourMap = std::unique_ptr<ColorMapObject, FreeColourMap>;
-
-ColourMap colourMap(const std::vector<Colour>& colours) {
-    std::vector<GifColorType> entries;
-    entries.reserve(colours.size());
+std::vector<GifColorType> colourTable(const std::vector<Colour>& colours) {
+    std::vector<GifColorType> table;
+    table.reserve(colours.size());
     for (const Colour colour : colours) {
         const auto [red, green, blue] = channels(colour);
-        entries.push_back(
+        table.push_back(
             {static_cast<GifByteType>(red), static_cast<GifByteType>(green), static_cast<GifByteType>(blue)});
     }
-    return ColourMap(GifMakeMapObject(static_cast<int>(entries.size()), entries.data()));
-}
-
-void check(bool worked, const std::filesystem::path& file) {
-    if (!worked) {
-        throw std::runtime_error("cannot write " + file.string());
-    }
+    return table;
 }
 
 bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<Colour>& colours) {
-    const ColourMap map = colourMap(colours);
+    const std::vector<GifColorType> table = colourTable(colours);
+    const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> map(
+        GifMakeMapObject(static_cast<int>(table.size()), table.data()), GifFreeMapObject);
     EGifSetGifVersion(gif, false);
     bool worked =
         EGifPutScreenDesc(gif, picture.width(), picture.height(), map->BitsPerPixel, 0, map.get()) == GIF_OK &&
@@ -71,10 +61,11 @@ bool writeImage(GifFileType* gif, const QImage& picture, const std::vector<Colou
 
 void writeGif(const QImage& picture, const std::vector<Colour>& colours, const std::filesystem::path& file) {
     GifFileType* gif = EGifOpenFileName(file.c_str(), false, nullptr);
-    check(gif != nullptr, file);
-    const bool written = writeImage(gif, picture, colours);
-    const bool closed = EGifCloseFile(gif, nullptr) == GIF_OK;
-    check(written && closed, file);
+    const bool written = gif != nullptr && writeImage(gif, picture, colours);
+    const bool closed = gif != nullptr && EGifCloseFile(gif, nullptr) == GIF_OK;
+    if (!written || !closed) {
+        throw std::runtime_error("cannot write " + file.string());
+    }
 }
 
-} // namespace tumble
+} // namespace tumble::art

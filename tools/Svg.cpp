@@ -7,38 +7,29 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
-constexpr int digits = 5;
-
 std::string number(double value) {
+    constexpr int digits = 5;
     return QString::number(value, 'g', digits).toStdString();
 }
 
-/// The commands of a path. Its shapes are closed: the filling does so anyway.
-std::string commands(const Path& path) {
-    std::string text;
-    const auto add = [&text](char command, Vec2 place) { text += command + number(place.x) + ' ' + number(place.y); };
+/// The path data of a path. Its outlines stay open: filling closes them anyway.
+std::string pathData(const Path& path) {
+    std::string data;
+    const auto add = [&data](char command, Vec2 place) { data += command + number(place.x) + ' ' + number(place.y); };
     for (const auto& [verb, to, bends] : path.steps()) {
-        switch (verb) {
-        case Path::Verb::Move:
-            add('M', to);
-            break;
-        case Path::Verb::Line:
-            add('L', to);
-            break;
-        case Path::Verb::Curve:
+        if (verb == Path::Verb::Curve) {
             add('C', bends[0]);
             add(' ', bends[1]);
             add(' ', to);
-            break;
-        case Path::Verb::Close:
-            break;
+        } else if (verb != Path::Verb::Close) {
+            add(verb == Path::Verb::Move ? 'M' : 'L', to);
         }
     }
-    return text;
+    return data;
 }
 
 } // namespace
@@ -47,7 +38,7 @@ void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem
     std::ofstream out(file);
     out << R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 )" << width << ' ' << width << "\">\n";
     for (const Shape& shape : shapes) {
-        out << R"(<path fill=")" << toQColor(shape.colour).name().toStdString() << R"(" d=")" << commands(shape.outline)
+        out << R"(<path fill=")" << toQColor(shape.colour).name().toStdString() << R"(" d=")" << pathData(shape.path)
             << "\"/>\n";
     }
     out << "</svg>\n";
@@ -56,4 +47,4 @@ void writeSvg(const std::vector<Shape>& shapes, int width, const std::filesystem
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -1,3 +1,4 @@
+#include "art/Icon.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 
@@ -14,11 +15,11 @@
 #include <string>
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
-/// The sizes in pixels of the three cards that the game shows, and what they become between two pixels.
+/// Sizes in pixels at which cards show: usual ones, those a pixel larger by rounding, and large ones.
 constexpr std::array shownSizes = {QSize(49, 76),  QSize(50, 77),  QSize(60, 94),   QSize(61, 94),
                                    QSize(83, 128), QSize(84, 129), QSize(124, 192), QSize(165, 256)};
 
@@ -71,7 +72,7 @@ std::set<QRgb> coloursOf(const QImage& image) {
 
 } // namespace
 
-// The files hold fewer colours than the drawings, and releases of the toolkit smooth edges a little differently.
+// The files have fewer colours than the drawings, and releases of the toolkit antialias a little differently.
 TEST(Assets, AreWhatTheProgramDraws) {
     constexpr int clear = 64;
     const auto expectDrawn = [](const std::string& name, const QImage& image) {
@@ -92,7 +93,7 @@ TEST(Assets, AreWhatTheProgramDraws) {
     }
 }
 
-// Launchers cut them to shapes that contain a circle of four fifths of the width.
+// Launchers crop them to shapes that contain a circle of four fifths of the width.
 TEST(Assets, MaskableIconsKeepInsideTheCircleThatAlwaysShows) {
     for (const int width : {192, 512}) {
         const QImage icon = fileImage("icons/tumble-maskable-" + std::to_string(width) + ".png");
@@ -121,7 +122,7 @@ TEST(Assets, BacksHaveThreeColoursEach) {
     }
 }
 
-// Backs must not give themselves away turned about or painted a pixel wider; pips lie evenly about the middle.
+// A back must not reveal that its card is rotated or a pixel wider. Pips are symmetrical about the middle.
 TEST(Pictures, AreSymmetricalAtEverySize) {
     constexpr int smoothing = 48;
     for (int picture = 0; picture < pictureCount; ++picture) {
@@ -155,7 +156,7 @@ TEST(Pictures, FacesLeaveTheBorderFree) {
     }
 }
 
-// A spread leaves ten columns of each card to see, the first of them its border, and the next row covers what lies
+// A spread leaves ten columns of each card uncovered, the first of them its border. The next row covers whatever is
 // more than 1000 twips below the top.
 TEST(Pictures, SliversOfAnyTwoFacesDiffer) {
     constexpr int clear = 64;
@@ -175,4 +176,4 @@ TEST(Pictures, SliversOfAnyTwoFacesDiffer) {
     }
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -1,6 +1,6 @@
-#include "art/Courts.h"
+#include "art/CourtCards.h"
 
-#include "art/CardDrawing.h"
+#include "art/CardCoordinates.h"
 #include "art/CourtAttributes.h"
 #include "art/CourtBodies.h"
 #include "art/CourtHeadgear.h"
@@ -8,18 +8,17 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tumble {
+namespace tumble::art {
 
 namespace {
 
 /// What the figures of one rank share.
 struct Body {
     std::span<const Piece> robe;
-    std::span<const Piece> locks;     ///< The hair behind the face.
-    std::span<const Piece> forelocks; ///< The hair before it, or the beard.
+    std::span<const Piece> backHair;
+    std::span<const Piece> frontHair; ///< In front of the face; of a king, the beard.
 };
 
-/// What a figure is dressed in.
 struct Costume {
     Fabric mantle;
     Fabric front;
@@ -28,25 +27,22 @@ struct Costume {
     Fabric sash;
 };
 
-/// Of what colour a figure's hair is, what it wears on its head and what it holds in its capture.
 struct Regalia {
     Colour hair;
     std::span<const Piece> headgear;
-    std::span<const Piece> attribute;
+    std::span<const Piece> attribute; ///< Held in the hand.
 };
 
-using namespace CourtAttributes;
-using namespace CourtBodies;
-using namespace CourtHeadgear;
-using enum Weave;
+using namespace court;
+using enum Pattern;
 
 constexpr std::array<Body, 3> bodies = {{
-    {jackRobe, jackLocks, {}},
-    {queenRobe, queenLocks, queenTresses},
-    {kingRobe, kingLocks, kingBeard},
+    {jackRobe, jackHair, {}},
+    {queenRobe, queenHair, queenTresses},
+    {kingRobe, kingHair, kingBeard},
 }};
 
-// First the four jacks, then the queens and the kings, in the order of the suits.
+// The jacks, the queens and the kings, each in the order of the suits.
 constexpr std::array<Costume, 12> costumes = {{
     {{red}, {yellow, Stripes, red}, {yellow, Chevrons, red}, {black, Dots, yellow}, {yellow}},
     {{yellow, Chevrons, red}, {yellow, Dots, red}, {black, Stripes, yellow}, {red}, {white, Dots, black}},
@@ -81,51 +77,51 @@ constexpr std::array<Regalia, 12> regalia = {{
 constexpr Vec2 frameInset{12, 6};
 constexpr Box pipBox{{}, 12, 13};
 
-/// How far to the right of the middle the hand is.
+/// How far to the right of the centre the hand is.
 constexpr double handX = 20;
 
-// The halves meet along a line through the middle, the origin, under the sash. It falls to the right.
+// The halves meet along a line through the centre, the origin. The line falls to the right; the sash covers it.
 constexpr double sashHalfWidth = 28;
 constexpr double sashFall = 6;
-constexpr Outline sash = "M-28 -8.4 L28 3.6 L28 8.4 L-28 -3.6 Z";
+constexpr PathData sash = "M-28 -8.4 L28 3.6 L28 8.4 L-28 -3.6 Z";
 
-void paintFigure(Drawing drawing, const Body& body, const Costume& costume, const Regalia& worn) {
-    const Wardrobe wardrobe = dressed(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
-    paintPieces(drawing, body.robe, wardrobe);
+void paintCourtFigure(Drawing drawing, const Body& body, const Costume& costume, const Regalia& worn) {
+    const Materials fabrics = materials(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
+    paintPieces(drawing, body.robe, fabrics);
     drawing.toPixels = drawing.toPixels.moved({handX, 0});
-    paintPieces(drawing, worn.attribute, wardrobe);
+    paintPieces(drawing, worn.attribute, fabrics);
     drawing.toPixels = drawing.toPixels.moved({-handX, 0});
-    paintPieces(drawing, arm, wardrobe);
-    paintPieces(drawing, body.locks, wardrobe);
-    paintPieces(drawing, face, wardrobe);
-    paintPieces(drawing, body.forelocks, wardrobe);
-    paintPieces(drawing, worn.headgear, wardrobe);
-    paintFabric(drawing, outline(sash), costume.sash);
+    paintPieces(drawing, arm, fabrics);
+    paintPieces(drawing, body.backHair, fabrics);
+    paintPieces(drawing, face, fabrics);
+    paintPieces(drawing, body.frontHair, fabrics);
+    paintPieces(drawing, worn.headgear, fabrics);
+    paintFabric(drawing, sash.path(), costume.sash);
 }
 
 } // namespace
 
-void paintCourt(const Drawing& drawing, int rank, Suit suit) {
+void paintCourtHalf(const Drawing& drawing, int rank, Suit suit) {
     const auto court = static_cast<std::size_t>(rank - firstCourtRank);
     const std::size_t figure = court * suitCount + static_cast<std::size_t>(suit);
     const double unit = drawing.toPixels.right.x;
     const int line = std::max(1, static_cast<int>(std::lround(unit)));
-    const PixelRect frame = fitted(drawing, wholeCard)
-                                .inset(static_cast<int>(std::ceil(frameInset.x * unit)),
-                                       static_cast<int>(std::lround(frameInset.y * drawing.toPixels.down.y)));
-    const PixelRect inside = frame.inset(line, line);
     Canvas& canvas = drawing.canvas;
+    const PixelRect frame =
+        canvas.bounds().inset(static_cast<int>(std::ceil(frameInset.x * unit)),
+                              static_cast<int>(std::lround(frameInset.y * drawing.toPixels.down.y)));
+    const PixelRect inside = frame.inset(line, line);
     canvas.clip(inside);
-    paintFigure(drawing.moved(wholeCard.centre()), bodies.at(court), costumes.at(figure), regalia.at(figure));
+    paintCourtFigure(drawing.moved(wholeCard.centre()), bodies.at(court), costumes.at(figure), regalia.at(figure));
     canvas.clip(canvas.bounds());
     for (const PixelRect& side : boxSides(frame, line)) {
         canvas.fill(side, black);
     }
-    paintSuit(canvas, suit, fitted(drawing, pipBox).size().at({inside.left + line, inside.top + 2 * line}));
+    paintSuit(canvas, suit, snapped(drawing, pipBox).size().at({inside.left + line, inside.top + 2 * line}));
 }
 
-double courtFall(PixelSize size) {
-    return sashFall * size.height / cardHeight / (sashHalfWidth * size.width / cardWidth);
+double courtDividerSlope(PixelSize size) {
+    return sashFall * size.height / cardSize.height / (sashHalfWidth * size.width / cardSize.width);
 }
 
-} // namespace tumble
+} // namespace tumble::art

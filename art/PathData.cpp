@@ -1,11 +1,11 @@
-#include "art/Outline.h"
+#include "art/PathData.h"
 
-namespace tumble {
+namespace tumble::art {
 
-Path Outline::path() const {
+Path PathData::path() const {
     Path path;
     for (std::string_view rest = text_; !rest.empty();) {
-        const auto& [name, n] = takeCommand(rest);
+        const auto& [name, n] = parseCommand(rest);
         switch (name) {
         case 'M':
             path.moveTo({n[0], n[1]});
@@ -29,4 +29,4 @@ Path Outline::path() const {
     return path;
 }
 
-} // namespace tumble
+} // namespace tumble::art

@@ -4,12 +4,12 @@
 
 #include <vector>
 
-namespace tumble {
+namespace tumble::art {
 
 /// Draws the back of a card that fills a canvas, in one of the colourings from 0 to 3, with no colours but its three.
 void drawBack(int colouring, Canvas& canvas);
 
 /// The three colours of a back: the ground and those of the two motifs.
-std::vector<Colour> backColours(int colouring);
+std::vector<Colour> backPalette(int colouring);
 
-} // namespace tumble
+} // namespace tumble::art
