@@ -46,7 +46,7 @@ void paintPixels(Canvas& canvas, std::string_view rows, char mark, const PixelRe
 void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour) {
     const auto& [line, pen] = glyph(character, pixels.size());
     canvas.clip(pixels);
-    canvas.stroke(line, Transform().moved(toBox(pixels).corner), {colour, static_cast<double>(pen), CapAndJoin::Sharp});
+    canvas.stroke(line, Transform().moved(toBox(pixels).corner), {colour, static_cast<double>(pen), LineCap::Flat});
     canvas.clip(canvas.bounds());
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "art/Drawing.h"
 #include "art/Outline.h"
 #include "art/Palette.h"
-#include "platform/paint/Canvas.h"
 
 #include <array>
 #include <cstddef>

@@ -190,7 +190,7 @@ TEST(MainModTest, PlayOpensTheTableAndDealsCardByCardUnderTheHourglass) {
     program.Main();
     std::map<std::string, int> paintings; // by what was done last, and whether what is painted lies on the table
     desktop.whenPainted = [&](const DisplayItem& item) {
-        const auto crd = program.tableTracker->identifyCard(item.place.right, item.place.bottom);
+        const auto crd = program.tableTracker->identifyCard(item.bounds.right, item.bounds.bottom);
         ++paintings[desktop.journal().back() + (crd == nullptr ? "" : ", " + crd->getStr())];
     };
     program.options().cmdPlay.Click();

@@ -27,8 +27,11 @@ public:
 
     explicit ClockRandom(Clock clock = std::chrono::system_clock::now) : clock_(std::move(clock)) {}
 
-    void Randomize() override;
-    float Rnd() override;
+    void Randomize() override {
+        engine_.seed(static_cast<std::mt19937::result_type>(clock_().time_since_epoch().count()));
+    }
+    /// Of 24 bits, all that single precision holds exactly, so that rounding never reaches 1.
+    float Rnd() override { return static_cast<float>(engine_() >> 8) / 16777216.0F; }
 
 private:
     Clock clock_;

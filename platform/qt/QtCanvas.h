@@ -12,17 +12,17 @@ namespace tumble {
 struct Picture;
 
 QColor toQColor(Colour colour);
-/// Null when there are no pixels in it.
+/// A null rectangle for an empty one.
 QRect toQRect(const PixelRect& pixels);
 
-/// A canvas in memory, painted on by the toolkit's painter. Draws none but its like.
+/// A canvas on a `QImage`.
 class QtCanvas : public Canvas {
 public:
-    /// Of at least one pixel each way; with a ground it is opaque, without one transparent.
+    /// Opaque with a ground, transparent without one; `size` is at least one pixel each way.
     QtCanvas(PixelSize size, std::optional<Colour> ground);
     explicit QtCanvas(QImage image) : image_(std::move(image)) {}
 
-    /// What is painted so far.
+    /// Ends the painter, as an image must not be read while it is painted on.
     const QImage& image() const;
 
     PixelSize size() const override { return {image_.width(), image_.height()}; }
@@ -36,16 +36,16 @@ public:
 
 private:
     void applyClip() const;
-    QPainter& exact();
-    QPainter& smooth(const Transform& toPixels);
+    QPainter& exactPainter();
+    QPainter& smoothPainter(const Transform& toPixels);
 
     QImage image_;
     std::optional<QRect> clip_;
-    bool isSmooth_ = false;    // the painter, and in a path's coordinates
-    mutable QPainter painter_; // at work until the image is looked at
+    bool isSmooth_ = false;    // the painter smooths edges and has a transform
+    mutable QPainter painter_; // active until the image is read
 };
 
-/// Decodes a picture and scales it; null when its bytes are none.
+/// Decodes and scales a picture; null when that fails.
 std::unique_ptr<Canvas> decoded(const Picture& picture, PixelSize size);
 
 } // namespace tumble

@@ -1,6 +1,5 @@
 #include "platform/qt/QtDesktop.h"
 
-#include "platform/paint/Replay.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/QtCanvas.h"
 #include "platform/qt/SurfaceWidget.h"
@@ -92,7 +91,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     : WindowDesktop(std::move(application)), pictures_(std::move(painter), decoded) {
     for (const int size : iconSizes) {
         QtCanvas canvas({size, size}, windowColour);
-        paint(canvas, App().Icon, canvas.bounds(), canvas.bounds(), pictures_);
+        pictures_.paint(canvas, App().Icon, canvas.bounds(), canvas.bounds());
         icon_.addPixmap(QPixmap::fromImage(canvas.image()));
     }
     QApplication::setQuitOnLastWindowClosed(false);

@@ -129,7 +129,7 @@ QRect SurfaceWidget::logicalRect(const PixelRect& pixels) const {
 
 // The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
-    if (shown_.outgrown(pixelSize(), pixelScale())) {
+    if (shown_.needsRepaint(pixelSize(), pixelScale())) {
         bringUpToDate();
     }
     if (!canvas_) {
@@ -278,7 +278,7 @@ void SurfaceWidget::showEvent(QShowEvent* /*event*/) {
 
 void SurfaceWidget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        shown_.forget(); // what has the window's colour is painted again
+        shown_.invalidate(); // what has the window's colour is painted again
         update();
     }
 }
