@@ -15,7 +15,6 @@ struct BasicPoint {
 
     constexpr BasicPoint operator+(BasicPoint other) const { return {x + other.x, y + other.y}; }
     constexpr BasicPoint operator-(BasicPoint other) const { return {x - other.x, y - other.y}; }
-    constexpr BasicPoint operator-() const { return {-x, -y}; }
     friend constexpr bool operator==(const BasicPoint&, const BasicPoint&) = default;
 };
 

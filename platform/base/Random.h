@@ -30,7 +30,7 @@ public:
     void Randomize() override {
         engine_.seed(static_cast<std::mt19937::result_type>(clock_().time_since_epoch().count()));
     }
-    /// Of 24 bits, all that single precision holds exactly, so that rounding never reaches 1.
+    // Single precision holds 24 bits exactly, so that rounding never yields 1.
     float Rnd() override { return static_cast<float>(engine_() >> 8) / 16777216.0F; }
 
 private:

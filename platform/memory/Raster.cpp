@@ -8,10 +8,7 @@ namespace tumble {
 
 namespace {
 
-struct Edge {
-    Vec2 from;
-    Vec2 to;
-};
+using Edge = std::pair<Vec2, Vec2>;
 
 Vec2 between(Vec2 from, Vec2 to, double share) {
     return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
@@ -24,7 +21,7 @@ std::vector<Edge> edges(const Path& path, bool allClosed) {
     Vec2 first;
     Vec2 last;
     const auto lineTo = [&](Vec2 to) {
-        all.push_back({last, to});
+        all.emplace_back(last, to);
         last = to;
     };
     for (const auto& [verb, to, controlPoints] : path.steps()) {

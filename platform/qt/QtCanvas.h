@@ -22,7 +22,7 @@ public:
     QtCanvas(PixelSize size, std::optional<Colour> ground);
     explicit QtCanvas(QImage image) : image_(std::move(image)) {}
 
-    /// Ends the painter, as an image must not be read while it is painted on.
+    /// Ends painting in progress, so that the image can be read.
     const QImage& image() const;
 
     PixelSize size() const override { return {image_.width(), image_.height()}; }
