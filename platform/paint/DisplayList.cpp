@@ -102,11 +102,11 @@ void DisplayList::prune() const {
     covers.reserve(items_.size() - pruned_);
     std::vector<Cover> others; // the covers that repaint nothing
     for (std::size_t i = pruned_; i < items_.size(); ++i) {
-        if (repaints[i]) {
+        if (repaints[i] || items_[i].opaque()) {
             covers.push_back({i, items_[i].bounds});
-        } else if (items_[i].opaque()) {
-            covers.push_back({i, items_[i].bounds});
-            others.push_back(covers.back());
+            if (!repaints[i]) {
+                others.push_back(covers.back());
+            }
         }
     }
     auto end = items_.begin(); // of the items that are kept
@@ -132,7 +132,7 @@ void DisplayList::prune() const {
     pruned_ = items_.size();
 }
 
-// Lists of the same length are compared position by position. Of others, the common head and tail are left out.
+// Lists of the same length are compared position by position. In others, all between the common head and tail differs.
 Rect DisplayList::replaceWith(const DisplayList& other) {
     if (ground_ != other.ground_) {
         *this = other;
