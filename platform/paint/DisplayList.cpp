@@ -102,11 +102,11 @@ void DisplayList::prune() const {
     covers.reserve(items_.size() - pruned_);
     std::vector<Cover> others; // the covers that repaint nothing
     for (std::size_t i = pruned_; i < items_.size(); ++i) {
-        if (repaints[i] || items_[i].opaque()) {
+        if (repaints[i]) {
             covers.push_back({i, items_[i].bounds});
-            if (!repaints[i]) {
-                others.push_back(covers.back());
-            }
+        } else if (items_[i].opaque()) {
+            covers.push_back({i, items_[i].bounds});
+            others.push_back(covers.back());
         }
     }
     auto end = items_.begin(); // of the items that are kept

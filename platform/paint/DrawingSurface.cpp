@@ -37,7 +37,7 @@ void ItemPainter::Circle(Point centre, float radius, Colour colour) {
 }
 
 DrawingSurface::DrawingSurface(float width, float height, Colour backColor)
-    : backColor_(backColor), displayList_(width, height, backColor) {}
+    : width_(width), height_(height), backColor_(backColor), displayList_(width, height, backColor) {}
 
 void DrawingSurface::Cls() {
     const Rect all = displayList_.bounds();

@@ -41,8 +41,8 @@ public:
     DrawingSurface(float width, float height, Colour backColor);
     virtual ~DrawingSurface() = default;
 
-    float Width() const { return displayList_.bounds().width(); }
-    float Height() const { return displayList_.bounds().height(); }
+    float Width() const { return width_; }
+    float Height() const { return height_; }
 
     Colour BackColor() const { return backColor_; }
     /// Does not change what is already painted.
@@ -64,6 +64,8 @@ private:
     friend class ItemPainter;
     void add(const DisplayItem& item);
 
+    float width_;
+    float height_;
     Colour backColor_;
     Colour foreColor_ = 0;
     DisplayList displayList_;
