@@ -1,7 +1,7 @@
 #pragma once
 
+#include "art/Drawing.h"
 #include "art/Palette.h"
-#include "platform/paint/Canvas.h"
 
 namespace tumble::art {
 

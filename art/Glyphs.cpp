@@ -57,7 +57,7 @@ Glyph glyph(char character, PixelSize size) {
 
 void paintGlyph(Canvas& canvas, char character, const PixelRect& pixels, Colour colour) {
     const auto& [centreLine, strokeWidth] = glyph(character, pixels.size());
-    const Pen pen{colour, static_cast<double>(strokeWidth), CapAndJoin::Sharp};
+    const Pen pen{colour, static_cast<double>(strokeWidth), LineCap::Flat};
     canvas.clip(pixels);
     canvas.stroke(centreLine, Transform().moved(toBox(pixels).corner), pen);
     canvas.clip(canvas.bounds());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/Colour.h"
+#include "platform/base/Path.h"
 #include "platform/paint/Canvas.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/paint/Canvas.h"
+#include "art/Drawing.h"
 
 namespace tumble::art {
 

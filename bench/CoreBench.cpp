@@ -1,4 +1,4 @@
-// What needs no window: the painting's list, the shuffle and the sorts.
+// What needs no window: the display list, the shuffle and the sorts.
 
 #include "game/MainMod.h"
 #include "packs/CardPack.h"
@@ -46,7 +46,7 @@ void Shuffle(benchmark::State& state) {
 }
 BENCHMARK(Shuffle)->Arg(24)->Arg(52)->Arg(104);
 
-/// Sorts a shuffled pack; the copy of its list is measured with it.
+/// Sorts a shuffled pack. The time includes a copy of its list.
 void Sort(benchmark::State& state, const CardOrder& order) {
     Pack pack(state.range(0));
     (*pack).sort(soShuffled);
@@ -61,7 +61,7 @@ const OrderSuitRank bySuitThenRank;
 BENCHMARK_CAPTURE(Sort, ByRankThenSuit, byRankThenSuit)->Arg(24)->Arg(52)->Arg(104);
 BENCHMARK_CAPTURE(Sort, BySuitThenRank, bySuitThenRank)->Arg(24)->Arg(52)->Arg(104);
 
-/// Every item of a spread painted once more, and the list looked through.
+/// Repaints every item of a spread and prunes the list.
 void Prune(benchmark::State& state) {
     Pack pack(state.range(0));
     (*pack).dealToTable(1300, 1000, 7644);

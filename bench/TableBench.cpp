@@ -1,4 +1,4 @@
-// What the player does at the table, on the desktop in memory and on the real one, which paints into memory here.
+// Actions of the player at the table, on the desktop in memory and on the real one with an offscreen platform.
 
 #include "art/Pictures.h"
 #include "game/MainMod.h"
@@ -26,7 +26,7 @@ private:
     MemoryDesktop desktop_{application()};
 };
 
-/// The real desktop, its windows opened at scale 1 and made larger.
+/// The real desktop. Its windows open at scale 1 and are then enlarged.
 template<int scale>
 class OnScreen {
 public:
@@ -40,7 +40,7 @@ public:
     }
     void show() {
         QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(); // the repaint that those have asked for
+        QCoreApplication::sendPostedEvents(); // the repaint that those have requested
     }
 
 private:
@@ -90,7 +90,7 @@ void DragStep(benchmark::State& state) {
     }
 }
 
-/// The last step and the drop: every card is painted.
+/// Every card is painted on a drop.
 template<class Desktop>
 void Drop(benchmark::State& state) {
     Game<Desktop> game(state.range(0));

@@ -56,7 +56,7 @@ TEST(CardTest, CardsPilesBlocksAndErasuresArePaintedStrokeByStroke) {
     table.picture().ForeColor(0x0000FF);
     const auto painted = [&table] {
         const DisplayItem& last = table.desktop.log(table.picture()).back();
-        EXPECT_EQ(last.place, (Rect{100.5F, 200, 828.5F, 1333}));
+        EXPECT_EQ(last.bounds, (Rect{100.5F, 200, 828.5F, 1333}));
         return inFull(last);
     };
     table.lay(rkAce, suSpade, 100.5F, 200);

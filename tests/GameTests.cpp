@@ -189,7 +189,7 @@ TEST(MainModTest, PlayOpensTheTableAndDealsCardByCardUnderTheHourglass) {
     program.Main();
     std::map<std::string, int> paintings; // by the last journal entry, and the card already on the table
     desktop.whenPainted = [&](const DisplayItem& item) {
-        const auto crd = program.tableTracker->identifyCard(item.place.right, item.place.bottom);
+        const auto crd = program.tableTracker->identifyCard(item.bounds.right, item.bounds.bottom);
         ++paintings[desktop.journal().back() + (crd == nullptr ? "" : ", " + crd->getStr())];
     };
     program.options().cmdPlay.Click();

@@ -1,7 +1,7 @@
 #include "art/Glyphs.h"
 #include "art/Pictures.h"
 #include "platform/memory/Raster.h"
-#include "platform/paint/Replay.h"
+#include "platform/paint/PictureCache.h"
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,7 @@ TEST(PictureCacheTest, WhereThereIsNoPictureTheCrossedCardShows) {
         const Picture picture(key, {});
         Raster canvas(usual, 0);
         EXPECT_EQ(pictures.image(picture, size, canvas) != nullptr, known) << key << size.width;
-        paint(canvas, picture, size.at({}), canvas.bounds(), pictures);
+        pictures.paint(canvas, picture, size.at({}), canvas.bounds());
         if (!known && !size.empty()) {
             EXPECT_EQ(canvas.at({0, 0}), red) << key;
             EXPECT_EQ(canvas.at({41, 64}), size == usual ? red : 0) << key;
@@ -44,7 +44,7 @@ TEST(PictureCacheTest, WhereThereIsNoPictureTheCrossedCardShows) {
     PictureCache pictures(draw);
     Raster canvas({300, 300}, 0);
     const PixelRect part{.left = 100, .top = 0, .right = 299, .bottom = 199};
-    paint(canvas, Picture("Joker", {}), {0, 0, 4999, 4999}, part, pictures);
+    pictures.paint(canvas, Picture("Joker", {}), {0, 0, 4999, 4999}, part);
     EXPECT_EQ(canvas.at({110, 110}), red);
     EXPECT_EQ(canvas.at({299, 0}), white);
     EXPECT_EQ(canvas.at({50, 50}), 0) << "outside the part";

@@ -16,13 +16,13 @@ namespace tumble {
 namespace {
 
 DisplayItem block(const Rect& place, Colour colour = 0xFF0000) {
-    return {.place = place, .operations = {FillOperation{place, colour}}};
+    return {.bounds = place, .operations = {FillOperation{place, colour}}};
 }
 
 TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
     const Picture picture("card", {});
     const DisplayItem low = block({100, 100, 500, 500});
-    const DisplayItem card{low.place, {PictureOperation{&picture, low.place}, BoxOperation{low.place, 0}}};
+    const DisplayItem card{low.bounds, {PictureOperation{&picture, low.bounds}, BoxOperation{low.bounds, 0}}};
     const DisplayItem open{{150, 150, 450, 450}, {BoxOperation{{150, 150, 450, 450}, 0}}};
     const std::vector<std::tuple<std::vector<DisplayItem>, std::optional<KeyboardCursor>, std::vector<Point>>> cases{
         {{}, {}, {}},

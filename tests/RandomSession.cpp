@@ -242,7 +242,7 @@ private:
         const DisplayList& shown = table_.picture().displayList();
         const std::size_t kept = shown.items().size();
         const bool onTable = std::all_of(shown.items().begin(), shown.items().end(), [&](const auto& item) {
-            return shown.bounds().intersects(item.place, DisplayList::overhang);
+            return shown.bounds().intersects(item.bounds, DisplayList::overhang);
         });
         checkStops();
         tracker().identifyCard(limits::quiet_NaN(), 0);

@@ -72,7 +72,7 @@ std::string whatItShows(const Operations& operations) {
 
 std::string inWords(std::span<const DisplayItem> items) {
     return joined(items, [](const DisplayItem& item) {
-        return whatItShows(item.operations) + at(Point{item.place.left, item.place.top});
+        return whatItShows(item.operations) + at(Point{item.bounds.left, item.bounds.top});
     });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/base/Geometry.h"
+#include "platform/base/Colour.h"
 
 #include <QImage>
 

@@ -2,13 +2,10 @@
 
 namespace tumble {
 
-/// Base of what others point at, or what must end where it began: never copied, never moved.
+/// Base of objects that others point at, or whose destructor ends what the constructor began.
 class NonMovable {
 public:
-    NonMovable(const NonMovable&) = delete;
-    NonMovable& operator=(const NonMovable&) = delete;
-    NonMovable(NonMovable&&) = delete;
-    NonMovable& operator=(NonMovable&&) = delete;
+    NonMovable(NonMovable&&) = delete; // and so there is no other copying or moving either
 
 protected:
     NonMovable() = default;

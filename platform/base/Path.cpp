@@ -1,27 +1,24 @@
 #include "platform/base/Path.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace tumble {
 
-void Path::curveTo(Vec2 bend, Vec2 to) {
-    const Vec2 from = steps_.back().to;
-    const auto third = [bend](Vec2 end) { return Vec2{(end.x + 2 * bend.x) / 3, (end.y + 2 * bend.y) / 3}; };
-    curveTo(third(from), third(to), to);
+void Path::curveTo(Vec2 control, Vec2 to) {
+    const auto third = [control](Vec2 end) { return Vec2{(end.x + 2 * control.x) / 3, (end.y + 2 * control.y) / 3}; };
+    curveTo(third(steps_.back().to), third(to), to);
 }
 
 void Path::addCircle(Vec2 centre, double radius) {
-    constexpr double bend = 0.5522847498; // how far the control points of a quarter of a circle reach
-    const double near = radius * bend;
+    const double control = radius * 0.5522847498; // from the end of a quarter of a circle to its control point
     const Vec2 least{centre.x - radius, centre.y - radius};
     const Vec2 middle{least.x + radius, least.y + radius};
     const Vec2 most{least.x + 2 * radius, least.y + 2 * radius};
     moveTo({most.x, middle.y});
-    curveTo({most.x, middle.y + near}, {middle.x + near, most.y}, {middle.x, most.y});
-    curveTo({middle.x - near, most.y}, {least.x, middle.y + near}, {least.x, middle.y});
-    curveTo({least.x, middle.y - near}, {middle.x - near, least.y}, {middle.x, least.y});
-    curveTo({middle.x + near, least.y}, {most.x, middle.y - near}, {most.x, middle.y});
+    curveTo({most.x, middle.y + control}, {middle.x + control, most.y}, {middle.x, most.y});
+    curveTo({middle.x - control, most.y}, {least.x, middle.y + control}, {least.x, middle.y});
+    curveTo({least.x, middle.y - control}, {middle.x - control, least.y}, {middle.x, least.y});
+    curveTo({middle.x + control, least.y}, {most.x, middle.y - control}, {most.x, middle.y});
     close();
 }
 
@@ -34,27 +31,18 @@ void Path::addBox(const Box& box) {
     close();
 }
 
-Path Path::mapped(const Transform& transform) const {
-    Path path = *this;
-    for (Step& step : path.steps_) {
-        step.bends = {transform(step.bends[0]), transform(step.bends[1])};
-        step.to = transform(step.to);
-    }
-    return path;
-}
-
 Path mirrored(const Path& path) {
     return path.mapped(Transform::scaling(-1, 1));
 }
 
 Path completed(const Path& half) {
-    const Path other = mirrored(half);
-    const auto& back = other.steps();
+    const Path left = mirrored(half);
+    const auto& back = left.steps();
     Path whole = half;
     for (std::size_t i = back.size(); --i > 0;) {
         const Vec2 to = back[i - 1].to;
         if (back[i].verb == Path::Verb::Curve) {
-            whole.curveTo(back[i].bends[1], back[i].bends[0], to);
+            whole.curveTo(back[i].controlPoints[1], back[i].controlPoints[0], to);
         } else {
             whole.lineTo(to);
         }

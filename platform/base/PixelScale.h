@@ -1,30 +1,31 @@
 #pragma once
 
-#include "platform/base/Geometry.h"
 #include "platform/base/Pixels.h"
-
-#include <vector>
 
 namespace tumble {
 
-/// How twips become device pixels and back: the one place where the two meet.
+/// The width and height of a pixel of an unscaled screen, in twips.
+inline constexpr float twipsPerPixel = 15;
+/// The limits of a scale's factor, and so the widest device pixel, in twips.
+inline constexpr float leastFactor = 0.75F;
+inline constexpr float largestFactor = 16;
+inline constexpr float widestPixel = twipsPerPixel / leastFactor;
+
+/// Converts twips to device pixels and back.
 class PixelScale {
 public:
-    /// Device pixels for each pixel of an unscaled screen (15 twips); values out of `leastFactor` to `largestFactor`
-    /// are brought inside, what is not a number counts as 1.
+    /// `factor` is the number of device pixels for each pixel of an unscaled screen, clamped to `leastFactor` and
+    /// `largestFactor`; NaN counts as 1.
     explicit PixelScale(double factor);
 
     double factor() const { return factor_; }
-    /// The pixel in which a place lies; far beyond any screen the outermost one that is told apart.
+    /// The pixel that contains a coordinate, clamped to 2^20 either way; 0 for NaN.
     int pixel(float twips) const;
+    PixelPoint pixel(Point at) const { return {pixel(at.x), pixel(at.y)}; }
     /// The pixels that a rectangle covers; none when it is empty.
     PixelRect pixels(const Rect& rect) const;
     /// The width of a pen: the whole number nearest to one unscaled pixel, ties down.
     int pen() const;
-    /// The pixels that a level or upright line covers inside `item`.
-    PixelRect stroke(Point from, Point to, const PixelRect& item) const;
-    /// Those of a slanting line.
-    std::vector<PixelRect> slant(Point from, Point to, const PixelRect& item) const;
     /// The whole twip in which a pixel begins.
     float twips(double pixel) const;
 

@@ -1,10 +1,26 @@
 #include "platform/base/Pixels.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
 
 namespace tumble {
+
+namespace {
+
+PixelRect straightLine(PixelPoint from, PixelPoint to, int pen, const PixelRect& clip) {
+    const auto start = [pen](int middle, int first, int last) {
+        return std::max(first, std::min(middle - pen / 2, last - pen + 1));
+    };
+    const PixelRect block{.left = start(std::min(from.x, to.x), clip.left, clip.right),
+                          .top = start(std::min(from.y, to.y), clip.top, clip.bottom),
+                          .right = start(std::max(from.x, to.x), clip.left, clip.right) + pen - 1,
+                          .bottom = start(std::max(from.y, to.y), clip.top, clip.bottom) + pen - 1};
+    return block.intersected(clip);
+}
+
+} // namespace
 
 std::array<PixelRect, 4> boxSides(const PixelRect& box, int pen) {
     std::array<PixelRect, 4> sides{box, box, box, box};
@@ -15,39 +31,23 @@ std::array<PixelRect, 4> boxSides(const PixelRect& box, int pen) {
     return sides;
 }
 
-PixelRect stroke(PixelPoint from, PixelPoint to, int pen, const PixelRect& item) {
-    const auto start = [pen](int place, int first, int last) {
-        return std::max(first, std::min(place - pen / 2, last - pen + 1));
-    };
-    const int x1 = start(std::min(from.x, to.x), item.left, item.right);
-    const int x2 = start(std::max(from.x, to.x), item.left, item.right);
-    const int y1 = start(std::min(from.y, to.y), item.top, item.bottom);
-    const int y2 = start(std::max(from.y, to.y), item.top, item.bottom);
-    return PixelRect{.left = x1, .top = y1, .right = x2 + pen - 1, .bottom = y2 + pen - 1}.intersected(item);
-}
-
-// Reckoned from the upper end, and outwards from there, so that nothing depends on the direction of drawing.
-std::vector<PixelRect> slant(PixelPoint from, PixelPoint to, int pen, const PixelRect& item) {
+// A slanting line is computed from its upper end, so that nothing depends on the direction of drawing.
+std::vector<PixelRect> rasterizeLine(PixelPoint from, PixelPoint to, int pen, const PixelRect& clip) {
+    if (from.x == to.x || from.y == to.y) {
+        return {straightLine(from, to, pen, clip)};
+    }
     if (from.y > to.y) {
         std::swap(from, to);
     }
-    if (from.y == to.y) {
-        return {stroke(from, to, pen, item)};
-    }
-    const int across = to.x - from.x;
-    const double slope = static_cast<double>(std::abs(across)) / (to.y - from.y);
+    const double slope = static_cast<double>(std::abs(to.x - from.x)) / (to.y - from.y);
     const int width = static_cast<int>(std::lround(pen * std::hypot(1, slope)));
-    const PixelRect ends{.left = from.x + std::min(across, 0) - pen / 2,
-                         .top = from.y,
-                         .right = from.x + std::max(across, 0) + pen / 2,
-                         .bottom = to.y};
-    const PixelRect room = ends.intersected(item);
+    const PixelRect ends{std::min(from.x, to.x) - pen / 2, from.y, std::max(from.x, to.x) + pen / 2, to.y};
+    const PixelRect visible = ends.intersected(clip);
     std::vector<PixelRect> blocks;
-    for (int row = room.top; row <= room.bottom; ++row) {
-        const int near = static_cast<int>(std::lround(slope * (row - from.y))) - width / 2;
-        const int left = across < 0 ? from.x - near - width + 1 : from.x + near;
-        blocks.push_back(
-            PixelRect{.left = left, .top = row, .right = left + width - 1, .bottom = row}.intersected(room));
+    for (int row = visible.top; row <= visible.bottom; ++row) {
+        const int distance = static_cast<int>(std::lround(slope * (row - from.y))) - width / 2;
+        const int left = to.x < from.x ? from.x - distance - width + 1 : from.x + distance;
+        blocks.push_back(PixelSize{width, 1}.at({left, row}).intersected(visible));
     }
     return blocks;
 }

@@ -27,8 +27,11 @@ public:
 
     explicit ClockRandom(Clock clock = std::chrono::system_clock::now) : clock_(std::move(clock)) {}
 
-    void Randomize() override;
-    float Rnd() override;
+    void Randomize() override {
+        engine_.seed(static_cast<std::mt19937::result_type>(clock_().time_since_epoch().count()));
+    }
+    // Single precision holds 24 bits exactly, so that rounding never yields 1.
+    float Rnd() override { return static_cast<float>(engine_() >> 8) / 16777216.0F; }
 
 private:
     Clock clock_;

@@ -82,7 +82,7 @@ std::vector<Point> stops(const DisplayList& list, const Rect& part, const std::o
             opaque.push_back(&item);
         }
     }
-    const auto liesUnderRing = [&](const DisplayItem* item) { return cursor && item->place.contains(cursor->at); };
+    const auto liesUnderRing = [&](const DisplayItem* item) { return cursor && item->bounds.contains(cursor->at); };
     const auto top = std::find_if(opaque.rbegin(), opaque.rend(), liesUnderRing);
     const DisplayItem* const under = top != opaque.rend() && !(*top)->erases(list.ground()) ? *top : nullptr;
     if (under != nullptr && cursor->holds) {
@@ -94,9 +94,9 @@ std::vector<Point> stops(const DisplayList& list, const Rect& part, const std::o
             continue;
         }
         std::vector<Rect> open;
-        addLargest(open, inwards((*item)->place.intersected(part)));
+        addLargest(open, inwards((*item)->bounds.intersected(part)));
         for (auto cover = std::next(item); cover != opaque.end() && !open.empty(); ++cover) {
-            if (const Rect hidden = outwards((*cover)->place); hidden.intersects((*item)->place)) {
+            if (const Rect hidden = outwards((*cover)->bounds); hidden.intersects((*item)->bounds)) {
                 open = without(open, hidden);
             }
         }

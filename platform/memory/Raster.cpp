@@ -8,27 +8,23 @@ namespace tumble {
 
 namespace {
 
-/// A straight way between two places in pixels.
-struct Edge {
-    Vec2 from;
-    Vec2 to;
-};
+using Edge = std::pair<Vec2, Vec2>;
 
 Vec2 between(Vec2 from, Vec2 to, double share) {
     return {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share};
 }
 
-/// The edges of a path, its curves cut into straight pieces. All outlines are closed when they are filled.
+/// The edges of a path, its curves flattened. `allClosed` closes every outline, as filling requires.
 std::vector<Edge> edges(const Path& path, bool allClosed) {
     constexpr int pieces = 16;
     std::vector<Edge> all;
     Vec2 first;
     Vec2 last;
     const auto lineTo = [&](Vec2 to) {
-        all.push_back({last, to});
+        all.emplace_back(last, to);
         last = to;
     };
-    for (const auto& [verb, to, bends] : path.steps()) {
+    for (const auto& [verb, to, controlPoints] : path.steps()) {
         if (verb == Path::Verb::Close || (verb == Path::Verb::Move && allClosed)) {
             lineTo(first);
         }
@@ -40,9 +36,10 @@ std::vector<Edge> edges(const Path& path, bool allClosed) {
             const Vec2 from = last;
             for (int piece = 1; piece <= pieces; ++piece) {
                 const double share = static_cast<double>(piece) / pieces;
-                const Vec2 middle = between(bends[0], bends[1], share);
-                lineTo(between(between(between(from, bends[0], share), middle, share),
-                               between(middle, between(bends[1], to, share), share), share));
+                const auto& [control1, control2] = controlPoints;
+                const Vec2 middle = between(control1, control2, share);
+                lineTo(between(between(between(from, control1, share), middle, share),
+                               between(middle, between(control2, to, share), share), share));
             }
         }
     }
@@ -84,7 +81,7 @@ template<class Source>
 void Raster::paintInside(const Path& path, const Transform& toPixels, const Source& source) {
     const std::vector<Edge> outline = edges(path.mapped(toPixels), true);
     for (int y = clip_.top; y <= clip_.bottom; ++y) {
-        std::vector<std::pair<double, int>> crossings; // where, and whether the outline comes from above
+        std::vector<std::pair<double, int>> crossings; // x, and 1 for an edge downwards, -1 for one upwards
         for (const auto& [from, to] : outline) {
             const double middle = y + 0.5;
             if ((from.y <= middle) != (to.y <= middle)) {
@@ -143,8 +140,8 @@ void Raster::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Fl
     const auto& from = dynamic_cast<const Raster&>(image);
     const PixelRect to = block.size().at(at);
     paint(to, [&](PixelPoint pixel) {
-        const int right = flip == Flip::Horizontal || flip == Flip::Both ? to.right - pixel.x : pixel.x - to.left;
-        const int down = flip == Flip::Vertical || flip == Flip::Both ? to.bottom - pixel.y : pixel.y - to.top;
+        const int right = flipsHorizontally(flip) ? to.right - pixel.x : pixel.x - to.left;
+        const int down = flipsVertically(flip) ? to.bottom - pixel.y : pixel.y - to.top;
         return from.at({block.left + right, block.top + down});
     });
 }

@@ -6,8 +6,7 @@
 
 namespace tumble {
 
-/// A canvas in memory, without a toolkit: what a test compares. Nothing is smoothed: a pixel is inside a path if its
-/// middle is.
+/// A canvas in memory whose pixels tests compare. Nothing is smoothed: a pixel is inside a path if its centre is.
 class Raster : public Canvas {
 public:
     Raster(PixelSize size, std::optional<Colour> ground);
@@ -29,7 +28,7 @@ public:
 
 private:
     std::size_t index(PixelPoint pixel) const;
-    /// Gives the pixels of a block, or inside a path, the colours that the source has for them.
+    /// Paints the pixels of a block, or inside a path, in the colours that `source` returns for them.
     template<class Source>
     void paint(const PixelRect& block, const Source& source);
     template<class Source>

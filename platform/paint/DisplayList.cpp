@@ -10,40 +10,52 @@ namespace {
 
 constexpr std::size_t fewItems = 64;
 
-/// What the items laid over it leave of an item.
+/// The part of an item that later opaque ones do not cover.
 Rect visiblePart(const std::vector<DisplayItem>& items, std::size_t position) {
-    Rect part = items[position].place;
+    Rect part = items[position].bounds;
     for (std::size_t later = items.size() - 1; later > position && !part.empty(); --later) {
         if (items[later].opaque()) {
-            part = part.without(items[later].place);
+            part = part.subtracted(items[later].bounds);
         }
     }
     return part;
 }
 
+/// Marks the new items that repaint the first pruned ones in their order, opaque and in the same bounds, and counts
+/// them.
+std::pair<std::vector<bool>, std::size_t> repaintsInOrder(const std::vector<DisplayItem>& items, std::size_t pruned) {
+    std::vector<bool> repaints(items.size());
+    std::size_t count = 0;
+    for (std::size_t i = pruned; i < items.size() && count < pruned; ++i) {
+        const DisplayItem& next = items[count];
+        if (items[i].bounds == next.bounds && items[i].opaque() && next.opaque()) {
+            repaints[i] = true;
+            ++count;
+        }
+    }
+    return {std::move(repaints), count};
+}
+
 } // namespace
 
 void Operations::push_back(const Operation& operation) {
-    if (many_.empty() && few_ < area_.size()) {
-        area_[few_++] = operation;
-        return;
+    if (size_ < inPlace_.size()) {
+        inPlace_[size_] = operation;
+    } else {
+        if (size_ == inPlace_.size()) {
+            allocated_.assign(inPlace_.begin(), inPlace_.end());
+        }
+        allocated_.push_back(operation);
     }
-    if (many_.empty()) {
-        many_.assign(area_.begin(), area_.end());
-        few_ = 0;
-    }
-    many_.push_back(operation);
+    ++size_;
 }
 
 bool DisplayItem::opaque() const {
-    if (operations.empty()) {
-        return false;
-    }
-    if (const auto* fill = std::get_if<FillOperation>(operations.begin())) {
-        return fill->box.contains(place);
-    }
-    const auto* picture = std::get_if<PictureOperation>(operations.begin());
-    return picture != nullptr && picture->box.contains(place);
+    const auto covers = [this](const auto* operation) {
+        return operation != nullptr && operation->box.contains(bounds);
+    };
+    return operations.size() > 0 && (covers(std::get_if<FillOperation>(operations.begin())) ||
+                                     covers(std::get_if<PictureOperation>(operations.begin())));
 }
 
 bool DisplayItem::erases(Colour ground) const {
@@ -55,7 +67,7 @@ DisplayList::DisplayList(float width, float height, Colour ground)
     : bounds_{.left = 0, .top = 0, .right = width - 1, .bottom = height - 1}, ground_(ground) {}
 
 void DisplayList::add(const DisplayItem& item) {
-    if (item.place.empty() || !bounds_.intersects(item.place, overhang)) {
+    if (item.bounds.empty() || !bounds_.intersects(item.bounds, overhang)) {
         return;
     }
     items_.push_back(item);
@@ -77,97 +89,79 @@ const std::vector<DisplayItem>& DisplayList::items() const {
     return items_;
 }
 
-// Mostly new items repaint the settled ones in their order, each in its place. As settled items do not cover one
-// another, such new ones do not either, so that only the others are compared with all. One pass in list order is
-// enough: an erasure that goes can set free only later ones. Two places less than a pixel apart can share a pixel, so
-// they count as meeting.
+// As pruned items do not cover one another, items that repaint them in their order do not either: only other new items
+// can cover these. One pass in list order is enough, as removing an erasure affects only later ones. Bounds less than a
+// pixel apart can share a pixel and count as intersecting.
 void DisplayList::prune() const {
     struct Cover {
         std::size_t position;
-        Rect place;
+        Rect bounds;
     };
+    const auto [repaints, repainted] = repaintsInOrder(items_, pruned_);
     std::vector<Cover> covers;
     covers.reserve(items_.size() - pruned_);
-    std::vector<Cover> others; // of them, that repaint nothing
-    std::vector<bool> repaints(items_.size());
-    std::size_t repainted = 0; // so many settled items, from the first
+    std::vector<Cover> others; // the covers that repaint nothing
     for (std::size_t i = pruned_; i < items_.size(); ++i) {
-        if (!items_[i].opaque()) {
-            continue;
-        }
-        covers.push_back({i, items_[i].place});
-        const DisplayItem& next = items_[repainted];
-        if (repainted < pruned_ && next.opaque() && next.place == items_[i].place) {
-            repaints[i] = true;
-            ++repainted;
-        } else {
+        if (repaints[i]) {
+            covers.push_back({i, items_[i].bounds});
+        } else if (items_[i].opaque()) {
+            covers.push_back({i, items_[i].bounds});
             others.push_back(covers.back());
         }
     }
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < items_.size(); ++i) {
+    auto end = items_.begin(); // of the items that are kept
+    for (std::size_t i = repainted; i < items_.size(); ++i) {
         DisplayItem& item = items_[i];
         const auto coversItem = [&](const Cover& cover) {
-            return cover.position > i && cover.place.contains(item.place);
+            return cover.position > i && cover.bounds.contains(item.bounds);
+        };
+        const auto intersectsItem = [&](const DisplayItem& earlier) {
+            return earlier.bounds.intersects(item.bounds, widestPixel);
         };
         const auto& mayCover = repaints[i] ? others : covers;
-        const auto meetsItem = [&](const DisplayItem& earlier) {
-            return earlier.place.intersects(item.place, widestPixel);
-        };
-        const auto lastKept = items_.begin() + static_cast<std::ptrdiff_t>(kept);
-        if (i < repainted || std::any_of(mayCover.begin(), mayCover.end(), coversItem) ||
-            (item.erases(ground_) && std::none_of(items_.begin(), lastKept, meetsItem))) {
+        if (std::any_of(mayCover.begin(), mayCover.end(), coversItem) ||
+            (item.erases(ground_) && std::none_of(items_.begin(), end, intersectsItem))) {
             continue;
         }
-        if (kept != i) {
-            items_[kept] = std::move(item);
+        if (&*end != &item) {
+            *end = std::move(item);
         }
-        ++kept;
+        ++end;
     }
-    items_.resize(kept);
-    pruned_ = kept;
+    items_.erase(end, items_.end());
+    pruned_ = items_.size();
 }
 
-// Items that stand at the same position in lists of the same length, or at both ends of others, look the same wherever
-// none of the rest lies.
+// Lists of the same length are compared position by position. In others, all between the common head and tail differs.
 Rect DisplayList::replaceWith(const DisplayList& other) {
     if (ground_ != other.ground_) {
         *this = other;
         return bounds_.expanded(overhang);
     }
-    items();
-    const auto& next = other.items();
-    Rect changed;
-    const auto changes = [&changed](const std::vector<DisplayItem>& items, std::size_t position) {
-        changed = changed.united(visiblePart(items, position));
-    };
-    if (items_.size() == next.size()) {
-        for (std::size_t i = 0; i < next.size(); ++i) {
-            if (items_[i] != next[i]) {
-                changes(items_, i);
-                changes(next, i);
-                items_[i] = next[i];
-            }
+    const std::vector<DisplayItem>& old = items();
+    const std::vector<DisplayItem>& next = other.items();
+    const auto head = std::mismatch(old.begin(), old.end(), next.begin(), next.end()).first - old.begin();
+    const auto tail =
+        std::mismatch(old.rbegin(), old.rend() - head, next.rbegin(), next.rend() - head).first - old.rbegin();
+    const auto first = static_cast<std::size_t>(head);
+    const std::size_t oldEnd = old.size() - static_cast<std::size_t>(tail);
+    const std::size_t nextEnd = next.size() - static_cast<std::size_t>(tail);
+    Rect damage;
+    for (std::size_t i = first; i < std::max(oldEnd, nextEnd); ++i) {
+        if (oldEnd == nextEnd && old[i] == next[i]) {
+            continue;
         }
-        return changed;
+        if (i < oldEnd) {
+            damage = damage.united(visiblePart(old, i));
+        }
+        if (i < nextEnd) {
+            damage = damage.united(visiblePart(next, i));
+        }
     }
-    const std::size_t common = std::min(items_.size(), next.size());
-    std::size_t head = 0;
-    while (head < common && items_[head] == next[head]) {
-        ++head;
-    }
-    std::size_t tail = 0;
-    while (tail < common - head && items_[items_.size() - 1 - tail] == next[next.size() - 1 - tail]) {
-        ++tail;
-    }
-    for (std::size_t i = head; i + tail < items_.size(); ++i) {
-        changes(items_, i);
-    }
-    for (std::size_t i = head; i + tail < next.size(); ++i) {
-        changes(next, i);
-    }
-    *this = other;
-    return changed;
+    items_.resize(next.size());
+    std::copy(next.begin() + head, next.end(), items_.begin() + head);
+    pruned_ = next.size();
+    return damage;
 }
 
 } // namespace tumble

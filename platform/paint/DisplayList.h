@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/base/Geometry.h"
+#include "platform/base/Colour.h"
+#include "platform/base/PixelScale.h"
 
 #include <algorithm>
 #include <array>
@@ -52,7 +53,7 @@ struct CircleOperation {
 
 using Operation = std::variant<PictureOperation, FillOperation, BoxOperation, LineOperation, CircleOperation>;
 
-/// A list of operations that keeps a few in itself: a step of a drag makes and drops one such list for each card.
+/// A vector that holds up to three operations without allocating: each step of a drag creates one for each card.
 class Operations {
 public:
     Operations() = default;
@@ -62,10 +63,9 @@ public:
 
     void push_back(const Operation& operation);
 
-    std::size_t size() const { return few_ + many_.size(); }
-    bool empty() const { return size() == 0; }
-    const Operation* begin() const { return many_.empty() ? area_.data() : many_.data(); }
-    const Operation* end() const { return begin() + size(); }
+    std::size_t size() const { return size_; }
+    const Operation* begin() const { return allocated_.empty() ? inPlace_.data() : allocated_.data(); }
+    const Operation* end() const { return begin() + size_; }
     const Operation& front() const { return *begin(); }
     const Operation& back() const { return *(end() - 1); }
 
@@ -74,37 +74,36 @@ public:
     }
 
 private:
-    std::array<Operation, 3> area_;
-    std::size_t few_ = 0;
-    std::vector<Operation> many_; // all of them, when they are more
+    std::array<Operation, 3> inPlace_;
+    std::size_t size_ = 0;
+    std::vector<Operation> allocated_; // all of them, when they are more than three
 };
 
-/// One bracketed piece of painting: the operations in their order, clipped to `place`.
+/// Operations in their order, clipped to `bounds`.
 struct DisplayItem {
-    Rect place;
+    Rect bounds;
     Operations operations;
 
-    /// True when the first operation covers the whole place, so that nothing beneath can show.
+    /// True when the first operation covers the bounds.
     bool opaque() const;
-    /// True when all it does is to fill its place with `ground`.
+    /// True when the only operation is a fill with `ground`.
     bool erases(Colour ground) const;
 
     friend bool operator==(const DisplayItem&, const DisplayItem&) = default;
 };
 
-/// What shows on a drawing surface: a ground of one colour and the items that still show on it, oldest first.
-/// DisplayList the list gives the same pixels, at every scale from the least up, as painting everything that was ever
-/// added.
+/// The ground of a drawing surface and the items that still show on it, oldest first. An opaque item removes earlier
+/// items that it covers completely. A fill with the ground is removed once nothing remains beneath it. At every scale
+/// the list gives the same pixels as all items ever added.
 class DisplayList {
 public:
-    /// An empty painting; `width` and `height` of the surface in twips.
+    /// An empty list for a surface of `width` by `height` twips.
     DisplayList(float width, float height, Colour ground);
 
-    /// A widget is a whole number of pixels wide and may reach over the surface's edge by up to so many twips.
+    /// A widget is a whole number of pixels wide and may extend beyond the surface by up to so many twips.
     static constexpr float overhang = 5 * widestPixel;
 
-    /// Lays an item over the painting. An item with an empty place, or with one that lies off the surface by more than
-    /// the overhang, adds nothing.
+    /// Ignores an item whose bounds are empty, or lie off the surface by more than the overhang.
     void add(const DisplayItem& item);
     void clear(Colour ground);
 
@@ -113,8 +112,8 @@ public:
     Colour ground() const { return ground_; }
     const std::vector<DisplayItem>& items() const;
 
-    /// Becomes another painting of the same surface, and returns where it may look other than before, in twips, the
-    /// overhang included; empty when it does nowhere.
+    /// Assigns another list of the same surface and returns the damage: a rectangle in twips that contains all that may
+    /// look different, the overhang included. It is empty when nothing does.
     Rect replaceWith(const DisplayList& other);
 
 private:
@@ -122,8 +121,7 @@ private:
 
     Rect bounds_;
     Colour ground_;
-    // The first `pruned_` still show. Of the rest some may not: they are looked through all at once, when somebody
-    // asks or when they have become many.
+    // Only the first `pruned_` items are known to show; the rest is pruned when the list is read or has grown long.
     mutable std::vector<DisplayItem> items_;
     mutable std::size_t pruned_ = 0;
 };

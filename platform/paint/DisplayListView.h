@@ -6,17 +6,17 @@
 
 namespace tumble {
 
-/// A painting as a canvas shows it, brought up to date only where it has become another since.
+/// A display list as a canvas shows it. Only the damage since the last update is replayed.
 class DisplayListView {
 public:
     DisplayListView(DisplayList list, PictureCache& pictures) : shown_(std::move(list)), pictures_(pictures) {}
 
-    /// Whether the canvas has to be painted afresh: it is another size now, or shows the painting at another scale.
-    bool outgrown(PixelSize size, PixelScale scale) const { return size_ != size || factor_ != scale.factor(); }
-    /// Paints what the canvas does not show yet, and returns the part.
+    /// Whether the whole canvas has to be repainted: at a size or scale other than that of the last update.
+    bool needsRepaint(PixelSize size, PixelScale scale) const { return size_ != size || factor_ != scale.factor(); }
+    /// Replays the damage on the canvas and returns the pixels that were repainted.
     PixelRect bringUpToDate(Canvas& canvas, const DisplayList& list, PixelScale scale);
-    /// What the canvas shows counts as nothing: it is empty, or colours are others.
-    void forget() { size_ = {}; }
+    /// Lets the next update repaint everything: the canvas was emptied, or a colour resolves differently.
+    void invalidate() { size_ = {}; }
 
 private:
     DisplayList shown_;

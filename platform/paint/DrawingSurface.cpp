@@ -2,8 +2,8 @@
 
 namespace tumble {
 
-ItemPainter::ItemPainter(DrawingSurface& surface, const Rect& place)
-    : surface_(surface), item_{.place = place, .operations = {}}, current_{place.left, place.top} {}
+ItemPainter::ItemPainter(DrawingSurface& surface, const Rect& bounds)
+    : surface_(surface), item_{.bounds = bounds, .operations = {}}, current_(bounds.corner()) {}
 
 ItemPainter::~ItemPainter() {
     surface_.add(item_);
@@ -42,7 +42,7 @@ DrawingSurface::DrawingSurface(float width, float height, Colour backColor)
 void DrawingSurface::Cls() {
     const Rect all = displayList_.bounds();
     displayList_.clear(backColor_);
-    painted({.place = all, .operations = {FillOperation{all, backColor_}}});
+    painted({.bounds = all, .operations = {FillOperation{all, backColor_}}});
 }
 
 void DrawingSurface::add(const DisplayItem& item) {

@@ -11,19 +11,19 @@ class DrawingSurface;
 
 enum class BoxFill { Outline, Filled };
 
-/// Paints one item on a surface: open it for a place, paint, and the item is on the surface when the brush goes.
-/// Coordinates are the surface's twips; nothing shows outside the place.
+/// Records one display item; its destructor adds the item to the surface. Coordinates are the surface's twips; painting
+/// is clipped to the item's bounds.
 class ItemPainter : private NonMovable {
 public:
-    ItemPainter(DrawingSurface& surface, const Rect& place);
+    ItemPainter(DrawingSurface& surface, const Rect& bounds);
     ~ItemPainter();
 
     /// Scales the whole picture into the box; the picture must outlive the surface.
     void PaintPicture(const Picture& picture, float x, float y, float width, float height);
     void Line(Point from, Point to, Colour colour);
-    /// A line from where the last one ended (at first, from the place's top left corner).
+    /// A line from where the last one ended (at first, from the top left corner of the bounds).
     void Line(Point to, Colour colour);
-    /// Without a colour, in the surface's `ForeColor`.
+    /// The default colour is the surface's `ForeColor`.
     void Line(const Rect& box, std::optional<Colour> colour, BoxFill fill);
     /// `radius` in twips.
     void Circle(Point centre, float radius, Colour colour);
@@ -34,10 +34,10 @@ private:
     Point current_;
 };
 
-/// What cards paint on. It keeps its painting, whatever covers the window.
+/// What cards paint on. Its display list survives whatever covers the window.
 class DrawingSurface : private NonMovable {
 public:
-    /// `width` and `height` in twips; the surface starts empty, showing `backColor`.
+    /// `width` and `height` in twips; the surface starts cleared to `backColor`.
     DrawingSurface(float width, float height, Colour backColor);
     virtual ~DrawingSurface() = default;
 
@@ -45,20 +45,19 @@ public:
     float Height() const { return height_; }
 
     Colour BackColor() const { return backColor_; }
-    /// Used from now on; what is painted already stays as it is.
+    /// Does not change what is already painted.
     void BackColor(Colour colour) { backColor_ = colour; }
     Colour ForeColor() const { return foreColor_; }
     void ForeColor(Colour colour) { foreColor_ = colour; }
 
-    /// Opens one item that covers `place`.
-    [[nodiscard]] ItemPainter Paint(const Rect& place) { return {*this, place}; }
+    [[nodiscard]] ItemPainter Paint(const Rect& bounds) { return {*this, bounds}; }
     /// Clears the surface to `BackColor`.
     void Cls();
 
     const DisplayList& displayList() const { return displayList_; }
 
 protected:
-    /// Called with each item once the painting has it (for `Cls`, with a filling of the whole surface).
+    /// Called with each item after it is added; for `Cls`, with a fill of the whole surface.
     virtual void painted(const DisplayItem& /*item*/) {}
 
 private:

@@ -3,21 +3,18 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace tumble {
 
-/// An encoded picture under a key. The bytes belong to whoever made it and outlive it. A picture without bytes, or with
+/// An encoded picture under a key. The bytes belong to its creator and outlive it. A picture without bytes, or with
 /// bytes that cannot be decoded, paints as a white card crossed in red. Never copied: its address is its identity.
 struct Picture {
     std::string Key;
     std::span<const std::byte> data;
 
     Picture(std::string key, std::span<const std::byte> bytes) : Key(std::move(key)), data(bytes) {}
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
     Picture(Picture&&) = default;
-    Picture& operator=(Picture&&) = delete;
-    ~Picture() = default;
 };
 
 } // namespace tumble

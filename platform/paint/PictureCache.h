@@ -4,8 +4,9 @@
 #include "platform/paint/Picture.h"
 
 #include <functional>
+#include <list>
 #include <memory>
-#include <vector>
+#include <utility>
 
 namespace tumble {
 
@@ -15,9 +16,8 @@ using PicturePainter = std::function<bool(const Picture& picture, Canvas& canvas
 /// Decodes a picture's bytes and scales it to a size; null for bytes that it cannot decode.
 using PictureDecoder = std::function<std::unique_ptr<Canvas>(const Picture& picture, PixelSize size)>;
 
-/// The pictures as the screen needs them, each made for its exact size in device pixels. That is a pixel more in some
-/// places than in others, each way, so that a picture comes in four sizes in time; kept are those used last, more than
-/// show at once.
+/// Pictures rendered at exact sizes in device pixels. Rounding makes a card a pixel wider or higher in some places, so
+/// that each picture occurs in four sizes. The least recently used are evicted; the limit is above what shows at once.
 class PictureCache {
 public:
     explicit PictureCache(PicturePainter painter, PictureDecoder decoder = {})
@@ -26,10 +26,11 @@ public:
     /// The widest and highest picture, in pixels.
     static constexpr int mostPixels = 4096;
 
-    /// An image of the picture, from the painter or, where that does not know it, from the decoder. Null where neither
-    /// does, and for a size of nothing or of more than `mostPixels` either way. Good until the next call.
+    /// The picture from the painter or, where that does not know it, from the decoder. Null where neither does, and for
+    /// an empty size or one of more than `mostPixels` either way. Valid until the next call.
     const Canvas* image(const Picture& picture, PixelSize size, const Canvas& like);
-    /// Lets go of all images, when they will be needed in other sizes.
+    /// Paints a picture that fills `box`, clipped to `clip`; without an image, a white card crossed in red.
+    void paint(Canvas& canvas, const Picture& picture, const PixelRect& box, const PixelRect& clip);
     void clear() { images_.clear(); }
 
 private:
@@ -37,17 +38,15 @@ private:
         const Picture* picture;
         PixelSize size;
         std::unique_ptr<Canvas> canvas; // null where there is none to be had
-        unsigned used;                  // the greater, the later
     };
 
-    std::unique_ptr<Canvas> made(const Picture& picture, PixelSize size, const Canvas& like) const;
+    std::unique_ptr<Canvas> render(const Picture& picture, PixelSize size, const Canvas& like) const;
 
     static constexpr std::size_t mostImages = 128;
 
     PicturePainter painter_;
     PictureDecoder decoder_;
-    std::vector<Image> images_;
-    unsigned uses_ = 0;
+    std::list<Image> images_; // the most recently used first
 };
 
 } // namespace tumble

@@ -7,15 +7,11 @@
 
 namespace tumble {
 
-/// Paints what shows of a painting at a scale in a part of a canvas, and returns the part, which is made larger where
-/// it would cut a circle: a smoothed line is painted whole or not at all.
+/// Paints the part of a display list that lies in `part`, at a scale, and returns that part. It is enlarged where it
+/// would cut a circle: a smoothed line is painted whole or not at all.
 PixelRect replay(Canvas& canvas, const DisplayList& list, PixelScale scale, PixelRect part, PictureCache& pictures);
 
-/// Paints the whole of an item, whatever lies over it.
+/// Paints the whole of an item, also what other items cover.
 void paint(Canvas& canvas, const DisplayItem& item, PixelScale scale, PictureCache& pictures);
-
-/// Paints a picture that fills a box of pixels, as far as it lies in a part: a white card crossed in red where there is
-/// no image of it.
-void paint(Canvas& canvas, const Picture& picture, const PixelRect& box, const PixelRect& part, PictureCache& pictures);
 
 } // namespace tumble

@@ -11,31 +11,26 @@ namespace tumble {
 
 namespace {
 
-QPointF toQPoint(Vec2 place) {
-    return {place.x, place.y};
+QPointF toQPoint(Vec2 point) {
+    return {point.x, point.y};
 }
 
 QPainterPath toQPath(const Path& path) {
-    QPainterPath made;
-    made.setFillRule(Qt::WindingFill);
-    made.reserve(static_cast<int>(3 * path.steps().size()));
-    for (const auto& [verb, to, bends] : path.steps()) {
-        switch (verb) {
-        case Path::Verb::Move:
-            made.moveTo(toQPoint(to));
-            break;
-        case Path::Verb::Line:
-            made.lineTo(toQPoint(to));
-            break;
-        case Path::Verb::Curve:
-            made.cubicTo(toQPoint(bends[0]), toQPoint(bends[1]), toQPoint(to));
-            break;
-        case Path::Verb::Close:
-            made.closeSubpath();
-            break;
+    QPainterPath result;
+    result.setFillRule(Qt::WindingFill);
+    result.reserve(static_cast<int>(3 * path.steps().size()));
+    for (const auto& [verb, to, controlPoints] : path.steps()) {
+        if (verb == Path::Verb::Move) {
+            result.moveTo(toQPoint(to));
+        } else if (verb == Path::Verb::Line) {
+            result.lineTo(toQPoint(to));
+        } else if (verb == Path::Verb::Curve) {
+            result.cubicTo(toQPoint(controlPoints[0]), toQPoint(controlPoints[1]), toQPoint(to));
+        } else {
+            result.closeSubpath();
         }
     }
-    return made;
+    return result;
 }
 
 QTransform toQTransform(const Transform& transform) {
@@ -73,7 +68,7 @@ void QtCanvas::applyClip() const {
     painter_.setClipRect(clip_.value_or(QRect()), clip_ ? Qt::ReplaceClip : Qt::NoClip);
 }
 
-QPainter& QtCanvas::exact() {
+QPainter& QtCanvas::exactPainter() {
     if (!painter_.isActive()) {
         painter_.begin(&image_);
         applyClip();
@@ -87,8 +82,8 @@ QPainter& QtCanvas::exact() {
     return painter_;
 }
 
-QPainter& QtCanvas::smooth(const Transform& toPixels) {
-    exact().setRenderHint(QPainter::Antialiasing);
+QPainter& QtCanvas::smoothPainter(const Transform& toPixels) {
+    exactPainter().setRenderHint(QPainter::Antialiasing);
     painter_.setTransform(toQTransform(toPixels));
     isSmooth_ = true;
     return painter_;
@@ -96,31 +91,31 @@ QPainter& QtCanvas::smooth(const Transform& toPixels) {
 
 void QtCanvas::clip(const PixelRect& block) {
     clip_ = block.contains(bounds()) ? std::nullopt : std::optional(toQRect(block));
-    exact();
+    exactPainter();
     applyClip();
 }
 
 void QtCanvas::fill(const PixelRect& block, Colour colour) {
     if (!block.empty()) {
-        exact().fillRect(toQRect(block), toQColor(colour));
+        exactPainter().fillRect(toQRect(block), toQColor(colour));
     }
 }
 
 void QtCanvas::fill(const Path& path, const Transform& toPixels, Colour colour) {
-    smooth(toPixels).fillPath(toQPath(path), toQColor(colour));
+    smoothPainter(toPixels).fillPath(toQPath(path), toQColor(colour));
 }
 
 void QtCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& texture, PixelPoint corner) {
     QBrush brush(dynamic_cast<const QtCanvas&>(texture).image());
     brush.setTransform(QTransform::fromTranslate(corner.x, corner.y) * toQTransform(toPixels).inverted());
-    smooth(toPixels).fillPath(toQPath(path), brush);
+    smoothPainter(toPixels).fillPath(toQPath(path), brush);
 }
 
 void QtCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    const bool isRound = pen.capAndJoin == CapAndJoin::Round;
-    smooth(toPixels).strokePath(toQPath(path),
-                                QPen(toQColor(pen.colour), pen.width, Qt::SolidLine,
-                                     isRound ? Qt::RoundCap : Qt::FlatCap, isRound ? Qt::RoundJoin : Qt::MiterJoin));
+    const bool isRound = pen.cap == LineCap::Round;
+    smoothPainter(toPixels).strokePath(toQPath(path), QPen(toQColor(pen.colour), pen.width, Qt::SolidLine,
+                                                           isRound ? Qt::RoundCap : Qt::FlatCap,
+                                                           isRound ? Qt::RoundJoin : Qt::MiterJoin));
 }
 
 void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) {
@@ -130,10 +125,10 @@ void QtCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, 
     const auto& from = dynamic_cast<const QtCanvas&>(image);
     const QImage& pixels = &from == this ? image_ : from.image();
     if (flip == Flip::None) {
-        exact().drawImage(QPoint(at.x, at.y), pixels, toQRect(block));
+        exactPainter().drawImage(QPoint(at.x, at.y), pixels, toQRect(block));
     } else {
         const QImage part = pixels.copy(toQRect(block));
-        exact().drawImage(at.x, at.y, part.mirrored(flip != Flip::Vertical, flip != Flip::Horizontal));
+        exactPainter().drawImage(at.x, at.y, part.mirrored(flipsHorizontally(flip), flipsVertically(flip)));
     }
 }
 

@@ -12,14 +12,14 @@ struct Picture;
 
 QColor toQColor(Colour colour);
 
-/// A canvas in memory, painted on by the toolkit's painter. Draws none but its like.
+/// A canvas on a `QImage`.
 class QtCanvas : public Canvas {
 public:
-    /// Of at least one pixel each way; with a ground it is opaque, without one transparent.
+    /// Opaque with a ground, transparent without one; `size` is at least one pixel each way.
     QtCanvas(PixelSize size, std::optional<Colour> ground);
     explicit QtCanvas(QImage image) : image_(std::move(image)) {}
 
-    /// What is painted so far.
+    /// Ends painting in progress, so that the image can be read.
     const QImage& image() const;
 
     PixelSize size() const override { return {image_.width(), image_.height()}; }
@@ -33,16 +33,16 @@ public:
 
 private:
     void applyClip() const;
-    QPainter& exact();
-    QPainter& smooth(const Transform& toPixels);
+    QPainter& exactPainter();
+    QPainter& smoothPainter(const Transform& toPixels);
 
     QImage image_;
     std::optional<QRect> clip_;
-    bool isSmooth_ = false;    // the painter, and in a path's coordinates
-    mutable QPainter painter_; // at work until the image is looked at
+    bool isSmooth_ = false;    // the painter smooths edges and has a transform
+    mutable QPainter painter_; // active until the image is read
 };
 
-/// Decodes a picture and scales it; null when its bytes are none.
+/// Decodes and scales a picture; null when that fails.
 std::unique_ptr<Canvas> decoded(const Picture& picture, PixelSize size);
 
 } // namespace tumble

@@ -1,6 +1,5 @@
 #include "platform/qt/QtDesktop.h"
 
-#include "platform/paint/Replay.h"
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/Fonts.h"
 #include "platform/qt/QtCanvas.h"
@@ -39,7 +38,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     : WindowDesktop(std::move(application), tumble::measure), pictures_(std::move(painter), decoded) {
     for (const int size : iconSizes) {
         QtCanvas canvas({size, size}, windowColour);
-        paint(canvas, App().Icon, canvas.bounds(), canvas.bounds(), pictures_);
+        pictures_.paint(canvas, App().Icon, canvas.bounds(), canvas.bounds());
         icon_.addPixmap(QPixmap::fromImage(canvas.image()));
     }
     QApplication::setQuitOnLastWindowClosed(false);

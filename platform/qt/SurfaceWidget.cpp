@@ -123,7 +123,7 @@ QRect SurfaceWidget::logicalRect(const PixelRect& pixels) const {
 
 // The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
-    if (shown_.outgrown(pixelSize(), pixelScale())) {
+    if (shown_.needsRepaint(pixelSize(), pixelScale())) {
         bringUpToDate();
     }
     if (!canvas_) {
@@ -254,7 +254,7 @@ bool SurfaceWidget::eventFilter(QObject* window, QEvent* event) {
 
 void SurfaceWidget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        shown_.forget(); // what has the window's colour is painted again
+        shown_.invalidate(); // what has the window's colour is painted again
         update();
     }
 }

@@ -15,7 +15,7 @@ void SurfaceElement::layOut(PixelSize size, PixelScale scale) {
     scale_ = scale;
     if (canvas_.size() != size) {
         canvas_.resize(size);
-        shown_.forget();
+        shown_.invalidate();
     }
     cursor_.reset();
 }

@@ -38,12 +38,13 @@ void WebCanvas::fill(const Path& path, const Transform& toPixels, const Canvas& 
 }
 
 void WebCanvas::stroke(const Path& path, const Transform& toPixels, const Pen& pen) {
-    paint(path, toPixels, pen.colour, pen.width, pen.capAndJoin == CapAndJoin::Round);
+    paint(path, toPixels, pen.colour, pen.width, pen.cap == LineCap::Round);
 }
 
 void WebCanvas::paint(const Path& path, const Transform& toPixels, Colour colour, double width, bool isRound) const {
     static_assert(sizeof(Transform) == 6 * sizeof(double) && sizeof(Path::Step) == 7 * sizeof(double) &&
-                  offsetof(Path::Step, to) == sizeof(double) && offsetof(Path::Step, bends) == 3 * sizeof(double));
+                  offsetof(Path::Step, to) == sizeof(double) &&
+                  offsetof(Path::Step, controlPoints) == 3 * sizeof(double));
     page_canvasPath(element_, colour, &toPixels.right.x, path.steps().data(), static_cast<int>(path.steps().size()),
                     width, isRound);
 }
@@ -51,8 +52,7 @@ void WebCanvas::paint(const Path& path, const Transform& toPixels, Colour colour
 void WebCanvas::draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) {
     if (!block.empty()) {
         page_canvasDraw(element_, static_cast<const WebCanvas&>(image).element_, block.left, block.top, block.width(),
-                        block.height(), at.x, at.y, flip == Flip::Horizontal || flip == Flip::Both,
-                        flip == Flip::Vertical || flip == Flip::Both);
+                        block.height(), at.x, at.y, flipsHorizontally(flip), flipsVertically(flip));
     }
 }
 

@@ -5,16 +5,15 @@
 
 namespace tumble {
 
-/// A canvas element of the page, or one that never shows. Draws none but its like. The window's colour is no paint: the
-/// page shows there.
+/// A canvas element, in the document or not. `windowColour` stays transparent, so that the page shows through.
 class WebCanvas : public Canvas {
 public:
-    /// Still without a size.
+    /// Empty until it is resized; the destructor removes the element.
     explicit WebCanvas(int element) : element_(element) {}
     ~WebCanvas() override { page_remove(element_); }
 
     int element() const { return element_; }
-    /// Empties it.
+    /// Clears the canvas.
     void resize(PixelSize size);
 
     PixelSize size() const override { return size_; }
@@ -27,7 +26,7 @@ public:
     void draw(const Canvas& image, const PixelRect& block, PixelPoint at, Flip flip) override;
 
 private:
-    /// Fills, or strokes with a pen of a width; of the colour of the window, with the texture that was set.
+    /// Strokes with a pen of `width`, or fills when that is 0; `windowColour` stands for the texture set last.
     void paint(const Path& path, const Transform& toPixels, Colour colour, double width = 0,
                bool isRound = false) const;
 

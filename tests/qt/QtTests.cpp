@@ -225,10 +225,10 @@ TEST(QtCanvasTest, DecodesAndScalesAPicture) {
     constexpr std::array noise{std::byte{'G'}, std::byte{'I'}, std::byte{'F'}};
     const Picture broken("broken", noise);
     QtCanvas canvas({82, 128}, 0);
-    paint(canvas, CardImages::find("AceSpades"), canvas.bounds(), canvas.bounds(), pictures);
+    pictures.paint(canvas, CardImages::find("AceSpades"), canvas.bounds(), canvas.bounds());
     EXPECT_EQ(canvas.image().pixelColor(41, 110), QColor(Qt::white));
     EXPECT_EQ(canvas.image().pixelColor(6, 26), QColor(Qt::black)) << "in the index";
-    paint(canvas, broken, canvas.bounds(), canvas.bounds(), pictures);
+    pictures.paint(canvas, broken, canvas.bounds(), canvas.bounds());
     EXPECT_EQ(canvas.image().pixelColor(41, 64), QColor(Qt::red));
 }
 

@@ -18,9 +18,9 @@ namespace tumble {
 namespace {
 
 /// Random painting on the table, in a window of random sizes.
-class ShownTest : public Windows {
+class SurfaceWidgetTest : public Windows {
 protected:
-    ShownTest() {
+    SurfaceWidgetTest() {
         tracker.picture(&box);
         mainMod.table().Show();
         window = Windows::window("Tumble");
@@ -105,7 +105,7 @@ protected:
     std::mt19937 random{1};
 };
 
-TEST_F(ShownTest, EveryPixelOfTheWidgetShowsWhatWasPainted) {
+TEST_F(SurfaceWidgetTest, EveryPixelOfTheWidgetShowsWhatWasPainted) {
     for (int i = 0; i < 600; ++i) {
         step();
         const QImage image = shown();
