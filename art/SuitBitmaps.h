@@ -1,6 +1,6 @@
 #pragma once
 
-#include "art/SuitSymbols.h"
+#include "platform/base/Pixels.h"
 
 #include <array>
 #include <string_view>

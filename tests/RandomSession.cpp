@@ -3,32 +3,23 @@
 #include "platform/memory/Raster.h"
 #include "platform/paint/DisplayListView.h"
 #include "tests/Player.h"
+#include "tests/SessionBytes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace tumble {
 
 namespace {
 
-using limits = std::numeric_limits<float>;
-
-/// A number that goes for any value of any set.
-struct Number {
-    std::int32_t value;
-    template<class Set>
-    operator Set() const {
-        return static_cast<Set>(value);
-    }
-};
-
-/// Each picture in stripes of its own, level and upright, so that none is like another nor like itself moved.
+/// Paints each picture in its own horizontal and vertical stripes, so that neither another picture nor an offset
+/// matches.
 bool paintStripes(const Picture& picture, Canvas& canvas) {
     const auto own = static_cast<Colour>(std::hash<std::string>{}(picture.Key) & 0xFFFF00U);
     const auto [width, height] = canvas.size();
@@ -41,102 +32,67 @@ bool paintStripes(const Picture& picture, Canvas& canvas) {
     return true;
 }
 
+/// The position of the action that a number below the sum of the weights chooses. `actions` begin with their weights.
+std::size_t pick(const auto& actions, unsigned number) {
+    std::size_t action = 0;
+    for (; number >= actions.at(action).first; ++action) {
+        number -= actions.at(action).first;
+    }
+    return action;
+}
+
 class Session {
 public:
     explicit Session(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     std::size_t run() {
-        const unsigned kind = next();
+        const unsigned kind = bytes_.next();
         game_ = kind % 4 != 0;
-        table_.desktop.whileMessageIsOpen = [this] {
-            if (game_) { // an operation may open a box for each card of a pack
-                check();
-            }
-            const std::size_t painted = log().size();
-            const auto cursor = table_.pointer.cursor();
-            for (unsigned events = next() % 3; events > 0 && game_; --events) {
-                tableEvent();
-            }
-            require(log().size() == painted, "a box is open, and the table hears of the mouse");
-            require(table_.pointer.cursor() == cursor, "a box is open, and the keyboard's pointer does something");
-        };
         table_.desktop.whileModal = [](Form& about) { about.Form_Close(); };
         if (game_) {
+            table_.desktop.whileMessageIsOpen = [this] { disturbBox(); };
             chooseAndPlay();
         }
-        const bool looks = kind >= 252;
+        looks_ = kind >= 252;
         std::size_t events = 0;
-        for (; !done() && !table_.desktop.ended(); ++events) {
+        for (; !bytes_.done() && !table_.desktop.ended(); ++events) {
             game_ ? tableEvent() : operation();
             check();
-            if (looks) {
-                look();
-            }
         }
         checkStops();
-        if (looks) {
+        if (looks_) {
             checkPixels();
         }
         return events;
     }
 
 private:
-    bool done() const { return at_ >= bytes_.size(); }
-    /// The next byte; zero when there is none left.
-    unsigned next() { return done() ? 0 : bytes_[at_++]; }
-    unsigned next16() { return next() << 8U | next(); }
-
-    /// From -1 to `limit`, or any.
-    Number number(unsigned limit) {
-        const unsigned byte = next();
-        return {static_cast<std::int32_t>(byte < 240 ? byte % (limit + 2) - 1 : next16() << 16U | next16())};
-    }
-    /// A length near the table's, one at the limits of its type, or any.
-    float length() {
-        constexpr std::array odd{limits::infinity(), -limits::infinity(),  limits::quiet_NaN(), limits::max(),
-                                 limits::lowest(),   limits::denorm_min(), 8388607.5F,          2147483648.0F};
-        const unsigned byte = next();
-        if (byte < 230) {
-            return byte < 200 ? static_cast<float>(next16() % 20000) / 2 - 500 : odd.at(byte % odd.size());
-        }
-        const std::uint32_t bits = next16() << 16U | next16();
-        float any = 0;
-        std::memcpy(&any, &bits, sizeof any); // std::bit_cast is not everywhere yet
-        return any;
-    }
-    /// On the table or beyond its edges, often on a pile.
-    Point place() {
-        constexpr std::array<Point, 5> piles{{{300, 300}, {8644, 300}, {300, 5644}, {8644, 5644}, {4507, 3007}}};
-        const unsigned byte = next();
-        const auto x = static_cast<float>(next16() % 10400) - 700;
-        const auto y = static_cast<float>(next16() % 7400) - 700;
-        return byte < 100 ? piles.at(byte % piles.size()) : Point{x, y};
-    }
-
     void chooseAndPlay() {
-        const Settings settings{next() % 8, next() % 3, next() % 6, std::size_t{next() % 16 < 15},
-                                next() % 4, next() % 2};
+        const Settings settings{bytes_.next() % 8, bytes_.next() % 3,
+                                bytes_.next() % 6, std::size_t{bytes_.next() % 16 < 15},
+                                bytes_.next() % 4, bytes_.next() % 2};
         cards_ = cardsOfDeck.at(settings.deck);
         table_.program.Main();
         choose(table_.program.options(), settings);
-        table_.program.options().sldBackDesign.Value(number(5).value);
+        table_.program.options().sldBackDesign.Value(bytes_.number(5).value);
         table_.program.options().cmdPlay.Click();
     }
 
-    /// A button, as the mouse or a key presses it, or the window's frame.
-    void press(unsigned which) {
-        frmTumble& window = table_.program.table();
-        const std::array buttons{&window.cmdHelp, &window.cmdAbout, &window.cmdExit};
-        if (which < buttons.size()) {
-            buttons.at(which)->Click();
-        } else if (window.picTable.takesInput()) {
-            window.Form_Close();
+    /// Input to the table while a message box is open has no effect.
+    void disturbBox() {
+        check();
+        const std::size_t painted = log().size();
+        const auto cursor = table_.pointer.cursor();
+        for (unsigned events = bytes_.next() % 3; events > 0; --events) {
+            tableEvent();
         }
+        require(log().size() == painted, "the table receives the mouse while a box is open");
+        require(table_.pointer.cursor() == cursor, "the keyboard's pointer moves while a box is open");
     }
 
     void key() {
-        const unsigned key = next() % 12;
-        const unsigned with = next();
+        const unsigned key = bytes_.next() % 12;
+        const unsigned with = bytes_.next();
         const int Shift = (with % 4 == 3 ? shiftKey : 0) + (with % 8 == 7 ? controlKey : 0) +
                           (with >= 250 ? altKey : 0) + (with >= 253 ? metaKey : 0);
         table_.pointer.key(
@@ -145,83 +101,100 @@ private:
         require(!cursor || canBeAStop(cursor->at), "the keyboard's pointer lies where it cannot");
     }
 
-    void finger(Point at) {
-        const unsigned what = next() % 16;
-        const int number = what % 4 == 3 ? 2 : 1;
-        const TouchEvent event = what < 6    ? TouchEvent::Begin
-                                 : what < 10 ? TouchEvent::Move
-                                 : what < 13 ? TouchEvent::End
-                                 : what < 14 ? TouchEvent::Cancel
-                                             : TouchEvent::LongPress;
-        table_.gesture.handle(event, number, at, static_cast<float>(what) * 100);
+    void release(Point at) {
+        table_.release(at);
+        require(!tracker().moveInProg() || !table_.picture().takesInput(), "the drag goes on");
     }
 
     void tableEvent() {
-        const unsigned kind = next();
-        if (kind >= 252) {
-            press(kind - 252);
-            return;
-        }
-        const Point at = place();
+        using Act = void (*)(Session&, Point);
+        static constexpr auto touch = [](Session& self, TouchEvent event, int finger, Point at) {
+            self.table_.gesture.handle(event, finger, at, finger == 1 ? 0 : 300);
+        };
+        // A release, or a key that ends a drag, drops and does nothing else.
+        static constexpr std::size_t key = 3;
+        static constexpr std::size_t release = 4;
+        static constexpr std::array<std::pair<unsigned, Act>, 16> actions{{
+            {64, [](auto& self, Point at) { self.table_.press(at); }},
+            {16, [](auto& self, Point at) { self.table_.press(at, self.bytes_.number(4)); }},
+            {56, [](auto& self, Point at) { self.table_.move(at); }},
+            {40, [](auto& self, Point) { self.key(); }},
+            {52, [](auto& self, Point at) { self.release(at); }},
+            {4, [](auto& self, Point at) { self.table_.pointer.move(0, 0, at); }}, // a release was lost
+            {4, [](auto& self, Point at) { touch(self, TouchEvent::Begin, 1, at); }},
+            {2, [](auto& self, Point at) { touch(self, TouchEvent::Begin, 2, at); }},
+            {5, [](auto& self, Point at) { touch(self, TouchEvent::Move, 1, at); }},
+            {4, [](auto& self, Point at) { touch(self, TouchEvent::End, 1, at); }},
+            {1, [](auto& self, Point at) { touch(self, TouchEvent::End, 2, at); }},
+            {3, [](auto& self, Point at) { touch(self, TouchEvent::LongPress, 0, at); }},
+            {1, [](auto& self, Point at) { touch(self, TouchEvent::Cancel, 0, at); }},
+            {1, [](auto& self, Point) { self.table_.program.table().cmdHelp.Click(); }},
+            {1, [](auto& self, Point) { self.table_.program.table().cmdAbout.Click(); }},
+            {2, [](auto& self, Point) { self.table_.program.table().cmdExit.Click(); }},
+        }};
+        const std::size_t action = pick(actions, bytes_.next());
+        const Point at = bytes_.place();
         const std::size_t painted = log().size();
         const bool armed = tracker().moveInProg();
-        if (kind < 80) {
-            table_.press(at, static_cast<std::int16_t>(kind < 64 ? 1 : number(4).value));
-        } else if (kind < 140) {
-            table_.move(at);
-        } else if (kind < 180) {
-            key();
-        } else if (kind < 200) {
-            finger(at);
-        } else {
-            table_.release(at);
-        }
-        const bool drops = kind >= 200 || (kind >= 140 && kind < 180 && !tracker().moveInProg());
-        if (armed && drops && table_.picture().takesInput()) {
+        actions.at(action).second(*this, at);
+        const bool onlyDrops = action == key || action == release;
+        if (armed && onlyDrops && !tracker().moveInProg() && table_.picture().takesInput()) {
             checkDrop(painted);
         }
     }
 
+    /// What an operation may use, each value inside its set or not.
+    struct Values {
+        Number rank, suit, size, faceDir, visible, backStyle, dckType, sortOrder, xAlign, yAlign;
+        float X, Y, right;
+    };
+
     /// One operation of the tracker, a pack or a card on the table.
     void operation() {
-        const unsigned kind = next() % 16;
-        const std::array numbers{number(16), number(4), number(3), number(1), number(3),
-                                 number(5),  number(9), number(6), number(3), number(3)};
-        const auto [rank, suit, size, faceDir, visible, backStyle, dckType, sortOrder, xAlign, yAlign] = numbers;
-        const std::array lengths{length(), length(), length()};
-        const auto [X, Y, right] = lengths;
-        if (kind < 3 && (cards_ += 4) < 200) {
-            const auto pack = std::make_shared<CardPack>();
-            pack->tracker(&tracker());
-            pack->accepter(suit.value == 0 ? nullptr : table_.accepter);
-            pack->init(size, faceDir, backStyle, dckType);
-            pack->sort(sortOrder);
-            if (kind == 0) {
-                pack->dealToTable(X, Y, right);
-                tracker().addCard(rank, suit, X, Y, size, faceDir, backStyle);
-                tracker().addJoker(right, Y, size, faceDir, backStyle);
-            } else {
-                pack->placeAsPile(X, Y, xAlign, yAlign);
-            }
-        } else if (kind == 3) {
-            tracker().flipCurCard();
-        } else if (kind == 4) {
-            tracker().bringCurCardToTop();
-        } else if (kind == 5) {
-            tracker().removeCurCard();
-        } else if (kind == 6) {
-            table_.accepter->dckType(dckType);
-        } else if (kind < 10) {
-            tracker().moveCurCard(X, Y);
-        } else if (kind == 10) {
-            tracker().endCurCardMove();
-        } else if (const auto crd = tracker().identifyCard(X, Y); kind < 14) {
-            tracker().startCurCardMove(X, Y);
-        } else if (crd != nullptr) {
-            crd->setRankAndSuit(rank, suit);
-            crd->setAttributes(&table_.picture(), size, faceDir, visible, backStyle);
-            crd->setPosition(X, right, xAlign, yAlign);
-            crd->drawOutline(rank, kind == 14);
+        using Act = void (*)(Session&, const Values&);
+        static constexpr std::array<std::pair<unsigned, Act>, 10> actions{{
+            {3, [](auto& self, const auto& with) { self.layPack(with); }},
+            {1, [](auto& self, const auto&) { self.tracker().flipCurCard(); }},
+            {1, [](auto& self, const auto&) { self.tracker().bringCurCardToTop(); }},
+            {1, [](auto& self, const auto&) { self.tracker().removeCurCard(); }},
+            {1, [](auto& self, const auto& with) { self.table_.accepter->dckType(with.dckType); }},
+            {3, [](auto& self, const auto& with) { self.tracker().moveCurCard(with.X, with.Y); }},
+            {1, [](auto& self, const auto&) { self.tracker().endCurCardMove(); }},
+            {1, [](auto& self, const auto& with) { self.tracker().identifyCard(with.X, with.Y); }},
+            {2, [](auto& self, const auto& with) { self.tracker().startCurCardMove(with.X, with.Y); }},
+            {2, [](auto& self, const auto& with) { self.changeCard(with); }},
+        }};
+        const Act act = actions.at(pick(actions, bytes_.next() % 16)).second;
+        // A braced list is evaluated in order.
+        act(*this, {bytes_.number(16), bytes_.number(4), bytes_.number(3), bytes_.number(1), bytes_.number(3),
+                    bytes_.number(5), bytes_.number(9), bytes_.number(6), bytes_.number(3), bytes_.number(3),
+                    bytes_.length(), bytes_.length(), bytes_.length()});
+    }
+
+    void layPack(const Values& with) {
+        if ((cards_ += 4) >= 200) { // more would only be slow
+            return;
+        }
+        const auto pack = std::make_shared<CardPack>();
+        pack->tracker(&tracker());
+        pack->accepter(with.suit.value == 0 ? nullptr : table_.accepter);
+        pack->init(with.size, with.faceDir, with.backStyle, with.dckType);
+        pack->sort(with.sortOrder);
+        if (with.visible.value > 0) {
+            pack->placeAsPile(with.X, with.Y, with.xAlign, with.yAlign);
+            return;
+        }
+        pack->dealToTable(with.X, with.Y, with.right);
+        tracker().addCard(with.rank, with.suit, with.X, with.Y, with.size, with.faceDir, with.backStyle);
+        tracker().addJoker(with.right, with.Y, with.size, with.faceDir, with.backStyle);
+    }
+
+    void changeCard(const Values& with) {
+        if (const auto crd = tracker().identifyCard(with.X, with.Y)) {
+            crd->setRankAndSuit(with.rank, with.suit);
+            crd->setAttributes(&table_.picture(), with.size, with.faceDir, with.visible, with.backStyle);
+            crd->setPosition(with.X, with.right, with.xAlign, with.yAlign);
+            crd->drawOutline(with.rank, with.visible.value == 0);
             crd->draw();
         }
     }
@@ -233,20 +206,22 @@ private:
         for (const auto& [text, caption] : table_.desktop.takeMessages()) {
             require(!game_ || caption != "Tumble", text); // which reports a value outside its set
         }
+        if (looks_) {
+            look();
+        }
     }
 
-    /// A drop ends with a redraw of the list and, unless a pile took it, of the dropped card. No card is missing.
+    /// A drop redraws the list last and, unless a pile took it, then the dropped card. No card is missing.
     void checkDrop(std::size_t before) {
-        require(!tracker().moveInProg(), "the drag goes on");
         const std::size_t dropped = log().size();
-        const DisplayList& shown = table_.picture().displayList();
+        const DisplayList& shown = displayList();
         const std::size_t kept = shown.items().size();
         const bool onTable = std::all_of(shown.items().begin(), shown.items().end(), [&](const auto& item) {
             return shown.bounds().intersects(item.bounds, DisplayList::overhang);
         });
         checkStops();
-        tracker().identifyCard(limits::quiet_NaN(), 0);
-        tracker().endCurCardMove(); // of no card: a redraw of the list
+        tracker().identifyCard(std::numeric_limits<float>::quiet_NaN(), 0);
+        tracker().endCurCardMove(); // redraws the list, as no card is current
         const auto drop = std::span(log()).subspan(before, dropped - before);
         const auto list = std::span(log()).subspan(dropped);
         int cards = 0;
@@ -268,7 +243,7 @@ private:
         return box.dragBounds.contains(at) && std::floor(at.x) == at.x && std::floor(at.y) == at.y;
     }
 
-    /// Unless a drag is on, there is something at each.
+    /// Unless a drag is under way, a card or pile lies at each stop.
     void checkStops() {
         const PictureBox& box = table_.picture();
         for (const Point at : stops(box.displayList(), box.dragBounds)) {
@@ -278,7 +253,7 @@ private:
         }
     }
 
-    /// A window shows the painting as it is now, sometimes at another scale.
+    /// Brings the window up to date, at times at another scale.
     void look() {
         scale_ = PixelScale(1 + static_cast<double>(log().size() / 16384 % 7) / 4);
         const PixelSize size = scale_.pixels(displayList().bounds()).size();
@@ -288,7 +263,7 @@ private:
         shown_.bringUpToDate(*window_, displayList(), scale_);
     }
 
-    /// The window shows the same pixels as everything that was painted.
+    /// The window has the same pixels as a replay of everything that was painted.
     void checkPixels() {
         look();
         Raster everything(window_->size(), displayList().ground());
@@ -302,11 +277,11 @@ private:
     CardTracker& tracker() const { return table_.tracker(); }
     const std::vector<DisplayItem>& log() { return table_.desktop.log(table_.picture()); }
 
-    std::span<const std::uint8_t> bytes_;
-    std::size_t at_ = 0;
+    SessionBytes bytes_;
     Table table_;
-    int cards_ = 0; // in the game, or about as many as operations have laid on the table
+    int cards_ = 0; // in the game, or a measure of those that operations laid on the table
     bool game_ = false;
+    bool looks_ = false; // shows the table in a window
     PictureCache pictures_{paintStripes};
     DisplayListView shown_{displayList(), pictures_};
     std::optional<Raster> window_;

@@ -1,20 +1,19 @@
-#!/usr/bin/python3
-"""What the page costs, beside pages written by hand that do as little as can be: web_bench.py FOLDER"""
+"""Measures the page beside minimal pages written by hand: /usr/bin/python3 -m bench.web.web_bench FOLDER"""
 
 import gzip
 import pathlib
 import statistics
 import sys
 
-HERE = pathlib.Path(__file__).resolve().parent
-sys.path.insert(0, str(HERE.parents[1] / "tests/web"))
-from page import Page, Server
-from player import in_spread
+from tests.play.page import Page
+from tests.play.player import in_spread
+from tests.play.server import Server
 
+HERE = pathlib.Path(__file__).resolve().parent
 ROUNDS = 21
-STEPS = 100 # 2 seconds or so
-# When the frame with the last control has been painted, in milliseconds since the navigation: looked for after each
-# frame, as the page lays out in the middle of one.
+STEPS = 100  # about 2 seconds
+# Sets `painted` to the time of the frame with the last control, in milliseconds since the navigation. Each frame is
+# examined after it was painted, since the page lays out within a frame.
 PAINTED = """
 const look = () => requestAnimationFrame(() => setTimeout(() => {
     if (document.querySelector('[data-name=cmdPlay]')?.clientWidth) {
@@ -40,7 +39,7 @@ def metrics(page):
 
 
 def steps(page):
-    """Script and task of a mouse step, in milliseconds."""
+    """Durations of script and task for one mouse step, in milliseconds."""
     before = metrics(page)
     for step in range(STEPS):
         page.pointer("mouseMoved", (300 + 2.4 * step, 300 + 0.9 * step), "left")
@@ -58,8 +57,7 @@ def main():
     files = [file for file in folder.iterdir() if file.suffix in (".html", ".css", ".js", ".wasm")]
     size = sum(len(gzip.compress(file.read_bytes())) for file in files)
     print(f"A first visit: {size / 1024:.1f} KiB")
-    # Every file comes from the browser's cache and unasked for, however new it is; a log of each request would cost more
-    # where there are more.
+    # The browser's cache serves every file without a request. Request logs would cost more for a page with more files.
     game, plain = (Server(each, [("Cache-Control", "max-age=3600")]) for each in (folder, HERE))
     Page.LOGS = {}
     for ratio in (1, 3):

@@ -1,6 +1,6 @@
 #include "tests/RandomSession.h"
 
-// The fuzzer calls it with inputs of its own making; what a session throws ends the process.
+// Called by the fuzzer. An exception ends the process, which the fuzzer reports.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     tumble::runSession({data, size});
     return 0;

@@ -1,5 +1,4 @@
-#!/usr/bin/python3
-"""Plays the page in Chromium without a network, and through updates of it, good and bad: offline_test.py FOLDER"""
+"""Plays the page in Chromium offline and through updates: /usr/bin/python3 -m tests.web.offline_test FOLDER"""
 
 import itertools
 import os
@@ -11,12 +10,14 @@ import tempfile
 import time
 import unittest
 
-from page import Page, Server, wait
+from tests.play.page import Page
+from tests.play.player import wait
+from tests.play.server import Server
 
 SOURCES = pathlib.Path(__file__).resolve().parents[2] / "platform/web"
 SHOWN = """[document.documentElement.dataset.version,
             getComputedStyle(document.documentElement).getPropertyValue('--version'), String(window.version)]"""
-# An update of the worker that has been tried to its end.
+# Updates the worker, and waits until the update is installed or has failed.
 UPDATED = """navigator.serviceWorker.ready.then(async (registration) => {
     await registration.update();
     const worker = registration.installing ?? registration.waiting;
@@ -25,11 +26,11 @@ UPDATED = """navigator.serviceWorker.ready.then(async (registration) => {
     }
     return worker?.state;
 })"""
-SECONDS = itertools.count(int(time.time()))  # to tell versions apart by, as servers do
+SECONDS = itertools.count(int(time.time()))  # a new modification time for each version
 
 
 def publish(folder, version):
-    """Makes the page in a folder one that shows its version by three files."""
+    """Copies the page to a folder and marks three of its files with the version."""
     shutil.copytree(FOLDER, folder, dirs_exist_ok=True)
     (folder / "offline.js").unlink()
     page = (folder / "index.html").read_text()
@@ -63,7 +64,7 @@ class OfflineTest(unittest.TestCase):
         self.result("navigator.serviceWorker.ready.then(() => true)")
 
     def update(self):
-        wait("the update", lambda: self.result(UPDATED) == "installed")  # the one before may be under way
+        wait("the update", lambda: self.result(UPDATED) == "installed")  # an earlier update may still run
 
     def go_offline(self):
         self.server.shutdown()
@@ -76,7 +77,7 @@ class OfflineTest(unittest.TestCase):
         self.assertEqual(self.page.ask(SHOWN), [str(version)] * 3)
 
     def assert_taken_over(self, version):
-        """Once no page was open."""
+        """Closes all pages first."""
         def start():
             self.page.browser.get("about:blank")
             self.page.open()
@@ -85,7 +86,7 @@ class OfflineTest(unittest.TestCase):
         wait("the version", start)
         self.assert_plays(version)
 
-    def test_can_be_installed_and_plays_without_a_network_after_one_visit(self):
+    def test_page_can_be_installed_and_plays_offline_after_one_visit(self):
         self.visit()
         self.assertEqual(self.page.tell("Page.getInstallabilityErrors")["installabilityErrors"], [])
         self.go_offline()
@@ -119,7 +120,7 @@ class OfflineTest(unittest.TestCase):
         self.go_offline()
         self.assert_plays(2)
 
-    def test_broken_update_leaves_the_version_before(self):
+    def test_broken_update_keeps_the_previous_version(self):
         def breaks_off():
             answer, answered = self.server.finish_request, iter(range(4))
             self.server.finish_request = lambda *request: None if next(answered, None) is None else answer(*request)
@@ -149,7 +150,7 @@ class OfflineTest(unittest.TestCase):
         self.go_offline()
         self.assert_plays(1)
 
-    def test_plays_where_nothing_can_be_kept(self):
+    def test_page_plays_where_nothing_can_be_stored(self):
         for source in ("delete Navigator.prototype.serviceWorker",
                        "ServiceWorkerContainer.prototype.register = () => Promise.reject(new Error())"):
             with self.subTest(source), self.page.before(source):
@@ -157,7 +158,7 @@ class OfflineTest(unittest.TestCase):
                 self.assertEqual(self.result("caches.keys()"), [])
                 self.assertEqual(self.page.browser.get_log("browser"), [])
 
-    def test_another_page_of_the_origin_keeps_its_version(self):
+    def test_second_page_of_the_origin_keeps_its_version(self):
         home, other = self.page.address, self.page.address.replace("some/where", "other")
         publish(self.folder / "other", 5)
         for self.page.address, version in ((other, 5), (home, 1)):

@@ -1,21 +1,19 @@
-#!/usr/bin/python3
-"""Plays the page in Chromium, by mouse, keys and fingers: web_test.py FOLDER"""
+"""Plays the page in Chromium by mouse, keys and touch: /usr/bin/python3 -m tests.web.web_test FOLDER"""
 
 import itertools
 import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
-from scenarios import ASIDE, BELOW, CORNERS, FREE, Scenarios, in_spread, wait
-from page import Page, Server
+from tests.play.page import Page
+from tests.play.player import CORNERS, FREE, in_spread, wait
+from tests.play.scenarios import ASIDE, BELOW, BLANK, TABLE, PageSteps, Scenarios
+from tests.play.server import Server
 
 AXE = pathlib.Path(__file__).with_name("node_modules") / "axe-core/axe.min.js"
-BLANK = (255, 255, 255)  # of a face
-TABLE = (30, 90, 64)
 
 
-class WebTest(Scenarios, unittest.TestCase):
+class WebTest(PageSteps, Scenarios, unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.server = Server(FOLDER)
@@ -37,24 +35,12 @@ class WebTest(Scenarios, unittest.TestCase):
         self.page.open()
         return self.page
 
-    def listen(self):
-        page = self.start_table()
-        names = []
-
-        def heard():
-            name, *_ = page.box() or [page.label()]
-            if name not in names[-1:]:
-                names.append(name)
-            return names
-
-        return page, heard
-
     def assert_over(self, game):
         wait("the end", game.over)
         game.click("#over a")
         game.wait_for_form("cmdPlay")
 
-    def test_previews_show_before_anything_happens(self):
+    def test_previews_show_at_the_start(self):
         page = self.start()
         for name in ("pctCardSize", "pctBackDesign"):
             left, top, width, height = page.control(name)
@@ -64,7 +50,7 @@ class WebTest(Scenarios, unittest.TestCase):
         (_, top, _, height), (_, caption, *_) = places
         self.assertLessEqual(top + height, caption, "the icon above the caption")
 
-    def test_page_says_what_it_needs_where_it_does_not_get_that(self):
+    def test_page_states_a_missing_requirement(self):
         page = self.page
         home = self.server.address
 
@@ -82,7 +68,7 @@ class WebTest(Scenarios, unittest.TestCase):
         visit(home, "scripts, which are switched off")
         page.requests()
 
-    def test_page_changes_its_size_and_is_left_in_the_middle_of_a_box(self):
+    def test_page_is_resized_and_reloaded_while_a_box_is_open(self):
         def part_of_table():
             return page.block("document.querySelector('dialog')")[2] / page.control("picTable")[2]
 
@@ -97,7 +83,7 @@ class WebTest(Scenarios, unittest.TestCase):
         page.open_table()
         self.assertEqual(page.box(), [])
 
-    def test_keys_choose_and_a_held_one_counts_once(self):
+    def test_keys_choose_options_and_a_held_key_counts_once(self):
         page = self.start()
         tabs = []
         for _ in range(5):
@@ -121,7 +107,7 @@ class WebTest(Scenarios, unittest.TestCase):
         page.key("Enter", repeated=True)
         self.assertFalse(page.over())
 
-    def test_held_space_keeps_the_card_that_a_held_key_carries_on(self):
+    def test_held_space_keeps_the_card_that_a_held_key_moves(self):
         page = self.start_table()
         page.strike("End", "ArrowUp")
         card = page.label()
@@ -132,7 +118,7 @@ class WebTest(Scenarios, unittest.TestCase):
         page.mouse(FREE, BELOW)
         self.assertFalse(page.ask("document.querySelector('[data-name=picTable] + .mark').clientWidth > 0"))
 
-    def test_deal_shows_the_hourglass_and_goes_on_while_the_page_is_hidden(self):
+    def test_deal_shows_the_hourglass_and_continues_while_the_page_is_hidden(self):
         page = self.start()
         page.browser.execute_script("""
             const states = new Set();
@@ -149,7 +135,7 @@ class WebTest(Scenarios, unittest.TestCase):
             wait("the deal", lambda: any(target["title"] == "wait true,default true"
                                          for target in page.tell("Target.getTargets")["targetInfos"]))
 
-    def test_fingers_flip_and_a_cancelled_drag_drops_the_card(self):
+    def test_long_press_flips_and_a_cancelled_drag_drops_the_card(self):
         page = self.start_table()
         for end, place, to in (("touchEnd", in_spread(51), BELOW), ("touchCancel", BELOW, ASIDE)):
             page.drag_by_finger(place, to, end)
@@ -163,7 +149,7 @@ class WebTest(Scenarios, unittest.TestCase):
         page.mouse(FREE)
         self.assertEqual((page.look(BELOW), page.label()), (BLANK, "None"))
 
-    def test_default_game_is_won_by_fingers(self):
+    def test_default_game_is_won_by_touch(self):
         page = self.start()
         page.tap("Play")
         page.in_front("Tumble")
@@ -184,7 +170,7 @@ class WebTest(Scenarios, unittest.TestCase):
         page.tap("Exit")
         self.assert_over(page)
 
-    def test_card_under_the_finger_is_carried_on_an_enlarged_table(self):
+    def test_touch_drags_the_card_under_it_on_an_enlarged_table(self):
         page = self.page
         page.screen(390, 844)
         page.open_table()
@@ -211,7 +197,7 @@ class WebTest(Scenarios, unittest.TestCase):
             return page.ask(f"(r => [r.x + 3, r.y + 3])(document.querySelector('{element}').getBoundingClientRect())")
 
         def check(place, light, dark):
-            """Looks at the page, at the window and at another place."""
+            """Compares the page, the window and another place in both themes."""
             places = [corner("main"), corner(".content"), place]
             for theme, *colours in (("light", (199,) * 3, (239,) * 3, light), ("dark", (36,) * 3, (50,) * 3, dark)):
                 page.tell("Emulation.setEmulatedMedia", features=[{"name": "prefers-color-scheme", "value": theme}])
@@ -224,7 +210,7 @@ class WebTest(Scenarios, unittest.TestCase):
         check(page.on_table(FREE), TABLE, TABLE)
         self.assertEqual(page.look(BELOW), BLANK)
 
-    def test_nothing_is_hidden_from_those_who_do_not_see_it(self):
+    def test_page_is_accessible_in_both_themes(self):
         self.addCleanup(self.page.tell, "Emulation.setEmulatedMedia")
         deck, card = "Standard 52-card deck", "Two of Diamonds"
         for theme in ("light", "dark"):
@@ -245,7 +231,7 @@ class WebTest(Scenarios, unittest.TestCase):
             self.assert_accessible(page, ("link", "Play again", ""))
 
     def assert_accessible(self, page, *shown):
-        """By what assistive technology is given: roles, names and descriptions, and what a live region says."""
+        """Expects no violation, and each (role, name, description) or ("", text of a live region) that is shown."""
         page.tell("Runtime.evaluate", expression=AXE.read_text())
         self.assertEqual(page.browser.execute_async_script("""
             axe.run().then(({violations}) => arguments[0](
@@ -257,7 +243,7 @@ class WebTest(Scenarios, unittest.TestCase):
                                                  ".map(element => element.innerText)")}
         self.assertLessEqual(set(shown), told)
 
-    def test_every_pixel_is_the_screens_own_at_every_zoom(self):
+    def test_pixels_are_device_pixels_at_every_zoom(self):
         for ratio in (1, 2):
             page = Page(self.server.address, ratio)
             self.addCleanup(page.close)
@@ -267,10 +253,10 @@ class WebTest(Scenarios, unittest.TestCase):
                 for width, height in ((1280, 801), (390, 844), (700, 340), (1000, 700)):
                     with self.subTest((ratio, zoom, width, height)):
                         page.screen(width, height)
-                        if width * ratio >= 480:  # else shrunk
+                        if width * ratio >= 480:  # else the table is scaled down
                             self.check_pixels(page, min(width * ratio / 635, height * ratio / 442))
 
-    def test_ticks_of_the_slider_are_alike_between_two_ratios(self):
+    def test_slider_ticks_are_alike_at_a_fractional_ratio(self):
         page = Page(self.server.address, 1.25)
         self.addCleanup(page.close)
         for size in ((700, 340), (640, 360), (801, 600)):
@@ -282,33 +268,6 @@ class WebTest(Scenarios, unittest.TestCase):
                 column = [shown.getpixel((left + 3, top + y)) for y in range(height)]
                 runs = [(colour, len(list(run))) for colour, run in itertools.groupby(column)]
                 self.assertEqual([length for colour, length in runs if colour != runs[0][0]], [1] * 4)
-
-    def check_pixels(self, page, scale):
-        """Waits until the table shows at the scale; looks at the left borders of cards, and for what is cut off."""
-        def table():
-            return page.ask("""(canvas => {
-                const {x, y, width} = canvas.getBoundingClientRect();
-                return [...[x, y, width].map(length => length * devicePixelRatio), canvas.width];
-            })(document.querySelector('[data-name=picTable]'))""")
-
-        wait("the table", lambda: abs(table()[3] - scale * 601) < 1.5)
-        left, top, width, pixels = table()
-        self.assertAlmostEqual(width, pixels, delta=0.1)
-        scale = pixels / 601
-        shown = page.photograph()
-
-        def pixel(twips):
-            return shown.getpixel((round(left) + round(twips * scale / 15), round(top) + int(1700 * scale / 15)))
-
-        for card in (0, 5):
-            edge = 1300 + 150 * card
-            colours = [pixel(edge + twips) for twips in range(-30, 100, 3)]
-            self.assertIn((0, 0, 0), colours)
-            self.assertEqual(set(colours) - {(0, 0, 0), BLANK, TABLE}, set(), "nothing between black and white")
-        self.assertEqual(page.ask("""[...document.querySelectorAll('[data-name]')].filter((element) => {
-            const {left, top, right, bottom} = element.getBoundingClientRect();
-            return Math.min(left, top, innerWidth - right, innerHeight - bottom) <= -1;
-        }).map(element => element.dataset.name)"""), [], "cut off")
 
 
 if __name__ == "__main__":

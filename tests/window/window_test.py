@@ -1,14 +1,13 @@
-#!/usr/bin/python3
-"""Plays the program in a real window and leaves it in every way: window_test.py PROGRAM"""
+"""Plays the program in a real window: /usr/bin/python3 -m tests.window.window_test PROGRAM"""
 
 import itertools
-import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1]))
-from scenarios import BELOW, CORNERS, FREE, Scenarios, in_spread, wait
-from player import Game, Screen, require_packages, stop
+from tests.play.game import Game
+from tests.play.player import CORNERS, FREE, in_spread, wait
+from tests.play.scenarios import BELOW, Scenarios
+from tests.play.screen import Screen, require_programs, stop
 
 CHOICES = ["Small", "Medium", "Normal", "Natural", "Shuffled", "By rank then suit, ascending",
            "By rank then suit, descending", "By suit then rank, ascending", "By suit then rank, descending",
@@ -30,7 +29,7 @@ class WindowTest(Scenarios, unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.screen = Screen(XDG_CURRENT_DESKTOP="GNOME")  # whose theme gives Enter to the button with the focus
+        cls.screen = Screen(XDG_CURRENT_DESKTOP="GNOME")  # its theme gives Enter to the focused button
         cls.addClassCleanup(cls.screen.close)
 
     def start(self):
@@ -45,16 +44,16 @@ class WindowTest(Scenarios, unittest.TestCase):
         return game, heard
 
     def assert_over(self, game):
-        self.assertEqual(game.end(), (0, "", False), "exit status, what it said, whether a process is left")
+        self.assertEqual(game.end(), (0, "", False), "exit status, output, whether a process is left")
 
-    def test_boxes_block_close_in_every_way_and_give_the_focus_back(self):
-        """While a screen reader listens."""
+    def test_boxes_block_input_close_in_every_way_and_return_the_focus(self):
+        """With a screen reader that listens."""
         listener = self.screen.reader().EventListener.new(lambda event: None)
         listener.register("window")
         self.addCleanup(listener.deregister, "window")
-        super().test_boxes_block_close_in_every_way_and_give_the_focus_back()
+        super().test_boxes_block_input_close_in_every_way_and_return_the_focus()
 
-    def test_screen_reader_is_told_what_shows(self):
+    def test_screen_reader_receives_what_shows(self):
         game = self.start()
         wait("the options", lambda: game.read("slider") == ["Back design"])
         self.assertEqual(game.read("image"), ["Card size preview", "Back design preview"])
@@ -107,6 +106,6 @@ class WindowTest(Scenarios, unittest.TestCase):
 
 
 if __name__ == "__main__":
-    require_packages()
+    require_programs()
     PROGRAM = sys.argv.pop(1)
     unittest.main(failfast=True)

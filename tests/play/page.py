@@ -1,22 +1,16 @@
-"""The page of a game in a browser, for whoever plays it or measures it."""
+"""The page in Chromium."""
 
 import base64
 import contextlib
-import functools
-import http.server
 import io
 import json
-import pathlib
-import sys
 import tempfile
-import threading
 
 from PIL import Image
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
-from player import FREE, Player, wait
+from tests.play.player import FREE, Player, wait
 
 SWITCHES = ("--headless=new --no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking "
             "--disable-component-update --disable-sync").split()
@@ -25,33 +19,8 @@ KEYS = {"Enter": 13, "Escape": 27, "Tab": 9, " ": 32, "PageUp": 33, "PageDown": 
 BUTTONS = {"left": 1, "right": 2}
 
 
-class Server(http.server.ThreadingHTTPServer):
-    """Serves a folder under a path of its own, with headers of one's own."""
-
-    def __init__(self, folder, headers=()):
-        class Handler(http.server.SimpleHTTPRequestHandler):
-            def translate_path(self, path):
-                return super().translate_path(path.removeprefix("/some/where"))
-
-            def end_headers(self):
-                for header in headers:
-                    self.send_header(*header)
-                super().end_headers()
-
-            def log_message(self, *words):
-                pass
-
-        super().__init__(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
-        self.address = f"http://127.0.0.1:{self.server_port}/some/where/"
-        threading.Thread(target=self.serve_forever, daemon=True).start()
-
-    def handle_error(self, *request):
-        if not isinstance(sys.exc_info()[1], ConnectionError):  # a browser may hang up
-            super().handle_error(*request)
-
-
 class Page(Player):
-    """The game in Chromium."""
+    """The game in Chromium. `ratio` is the device pixel ratio."""
 
     LOGS = {"browser": "ALL", "performance": "ALL"}
 
@@ -71,19 +40,19 @@ class Page(Player):
         self.profile.cleanup()
 
     def screen(self, width=1000, height=700):
-        """The size of the page, in its own pixels before any zoom."""
+        """Sets the size of the page, in CSS pixels at zoom 1."""
         self.tell("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=0, mobile=False)
         self.frames(2)
 
     def frames(self, count):
-        """Waits until so many have been shown."""
+        """Waits until as many frames were shown."""
         self.browser.execute_async_script("""
             const [count, done] = arguments;
             const next = (left) => left ? requestAnimationFrame(() => next(left - 1)) : done();
             next(count);""", count)
 
     def zoom(self, factor):
-        """As the browser's user does it."""
+        """Sets the browser's zoom."""
         with self.hidden():
             self.browser.get("chrome://settings")
             self.browser.execute_async_script("chrome.settingsPrivate.setDefaultZoom(...arguments)", factor)
@@ -93,7 +62,7 @@ class Page(Player):
 
     @contextlib.contextmanager
     def before(self, script):
-        """A script that runs before each page's own meanwhile."""
+        """Runs a script before the scripts of each page that is loaded meanwhile."""
         number = self.tell("Page.addScriptToEvaluateOnNewDocument", source=script)["identifier"]
         yield
         self.tell("Page.removeScriptToEvaluateOnNewDocument", identifier=number)
@@ -112,25 +81,24 @@ class Page(Player):
         self.in_front("Tumble")
 
     def wait_for_form(self, control):
-        """Waits until a button shows in its place."""
+        """Waits until the control is placed."""
         wait(control, lambda: self.ask(f"!!document.querySelector('[data-name={control}]')?.style.width"))
 
     def in_front(self, title):
-        """Waits until the dialog with the title is open, or none over the form with it, and the deal is over."""
+        """Waits until the dialog with the title is open, or the form with it and no dialog, and the deal is done."""
         wait(title, lambda: [title] == (self.box()[:1] or self.ask("[document.title]")))
         wait("the deal", lambda: not self.ask("!!document.querySelector('.busy')"))
 
     def message(self, title):
-        """Waits for the message box with the title; its text."""
+        """Waits for the message box with the title and returns its text."""
         self.in_front(title)
         return self.box()[1]
 
     def block(self, element):
-        """Left, top, width and height of an element, in the page's pixels."""
+        """Left, top, width and height of an element, in CSS pixels."""
         return self.ask(f"(r => [r.x, r.y, r.width, r.height])({element}.getBoundingClientRect())")
 
     def control(self, name):
-        """The block of a control."""
         return self.block(f"document.querySelector('[data-name={name}]')")
 
     def on_table(self, place):
@@ -143,7 +111,7 @@ class Page(Player):
                   clickCount=1)
 
     def mouse(self, *steps):
-        """Places on the table to move to, and what to do there with a button."""
+        """Each step is a place on the table to move to, or a button to press or release there."""
         for step in steps:
             if isinstance(step, tuple):
                 held = next((name for name, bit in BUTTONS.items() if self.down & bit), "none")
@@ -153,7 +121,7 @@ class Page(Player):
                 self.pointer("mousePressed" if step[0] == "+" else "mouseReleased", self.at, step[1:])
 
     def touch(self, kind, *places):
-        """Begins, goes on with or ends what fingers do ("touchStart"), those that touch being at places of the page."""
+        """Sends a touch event such as "touchStart", with a touch at each place of the page."""
         self.tell("Input.dispatchTouchEvent", type=kind, touchPoints=[dict(zip("xy", place)) for place in places])
 
     def drag_by_finger(self, place, to, end="touchEnd"):
@@ -161,7 +129,7 @@ class Page(Player):
         self.touch("touchStart", at)
         for way in ways:
             self.touch("touchMove", way)
-        self.frames(8)  # a finger that leaves in motion flings: a browser takes the next tap for the end of that
+        self.frames(8)  # else the browser starts a fling, which the next tap would only stop
         self.touch(end)
 
     def middle(self, element):
@@ -176,7 +144,7 @@ class Page(Player):
         self.mouse("+left", "-left")
 
     def button(self, caption):
-        """Where a button is, the one in front."""
+        """The middle of the topmost button with the caption."""
         return self.middle("[...document.querySelectorAll('button')]"
                            f".findLast(button => button.clientWidth && button.innerText.trim() === '{caption}')")
 
@@ -188,7 +156,7 @@ class Page(Player):
         self.touch("touchEnd")
 
     def key(self, key, repeated=False):
-        """Strikes a key, such as "Enter", " " or "alt+x"."""
+        """Presses and releases a key, such as "Enter", " " or "alt+x"."""
         *alt, key = key.split("+")
         code = f"Key{key.upper()}" if len(key) == 1 and key.isalpha() else {" ": "Space"}.get(key, key)
         named = {"key": key, "code": code, "modifiers": len(alt),
@@ -199,13 +167,13 @@ class Page(Player):
         self.tell("Input.dispatchKeyEvent", type="keyUp", **named)
 
     def vanish(self):
-        """Goes from the screen and comes back; the button is let go meanwhile."""
+        """Hides the page and shows it again; the button is released meanwhile."""
         with self.hidden():
             self.down = 0
 
     @contextlib.contextmanager
     def hidden(self):
-        """Another tab is in front meanwhile."""
+        """Shows another tab meanwhile."""
         handle = self.browser.current_window_handle
         self.browser.switch_to.new_window("tab")
         yield
@@ -216,7 +184,7 @@ class Page(Player):
         return self.ask("document.querySelector('[data-name=lblCurrentCard]').innerText")
 
     def box(self):
-        """Title and text of the dialog that is open."""
+        """Title and text of the open dialog; empty if there is none."""
         return self.ask("""[...document.querySelectorAll('dialog')].flatMap(dialog =>
             [dialog.ariaLabel, ...[...dialog.querySelectorAll('[data-name=lblText]')].map(text => text.innerText)])""")
 
@@ -224,7 +192,7 @@ class Page(Player):
         return self.ask("(e => e.dataset.name ?? e.parentElement.dataset.name ?? e.innerText)(document.activeElement)")
 
     def look(self, place):
-        """The colour under a place on the table, where a face held there is blank."""
+        """The colour near a place on the table, where the face of a card held there is blank."""
         left, top = self.on_table(place)
         return self.photograph().getpixel((left + 2, top + 90))
 
