@@ -39,7 +39,7 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
-/// What holds controls: a form or a frame. The controls are its owner's members; it only lists them, in their order.
+/// A form or a frame. It lists its controls in their order and does not own them: they are members of the form.
 class Container : private NonMovable {
 public:
     virtual ~Container() = default;
@@ -56,10 +56,9 @@ private:
     std::vector<AnyControl> controls_;
 };
 
-/// What every control has. Controls hold their state; the desktop shows it and calls the operations and events that
-/// answer to what the player does, as a test does. On a form that takes no input a button does nothing. An ampersand
-/// marks a caption's access key; the caption of a picture box or a slider does not show, it is what a screen reader
-/// calls the control.
+/// A control holds its state. The desktop shows the state and calls the operations and handlers for what the player
+/// does; a test calls the same. An ampersand marks a caption's access key. The caption of a picture box or a slider
+/// does not show; it is the control's name for screen readers.
 class Control : private NonMovable {
 public:
     Control(Container& container, std::string name, std::string caption, const Place& place, int tabIndex);
@@ -75,7 +74,7 @@ public:
 
 protected:
     ~Control() = default;
-    /// Tells the desktop to show the control's new state.
+    /// Lets the desktop show the control's new state.
     void changed();
 
 private:
@@ -86,7 +85,7 @@ private:
     int tabIndex_;
 };
 
-/// A caption without the ampersand, and the letter that it marks, a capital; 0 when it marks none.
+/// A caption without the ampersand, and the letter that it marks as a capital; 0 for none.
 struct PlainCaption {
     explicit PlainCaption(std::string caption);
 
@@ -94,8 +93,8 @@ struct PlainCaption {
     char accessKey = 0;
 };
 
-/// A drawing surface that hears of the mouse from a `MouseCapture`: button 1 left, 2 right, 4 middle (for a move, the
-/// sum of those held); shift keys 1 Shift, 2 Ctrl, 4 Alt; place in whole twips.
+/// A drawing surface that receives the mouse: the button, for a move the sum of those held (see Mouse.h); the sum of
+/// the modifiers (see Keys.h); the place in whole twips.
 class PictureBox : public Control, public DrawingSurface {
 public:
     using MouseEvent = std::function<void(std::int16_t Button, std::int16_t Shift, float X, float Y)>;
@@ -103,13 +102,13 @@ public:
     PictureBox(Container& container, std::string name, std::string caption, const Place& place, int tabIndex,
                Colour backColor);
 
-    /// Whether it hears of anything; only then do keys and fingers act on it.
+    /// Whether it receives the mouse, and so keys and touches, which become the mouse.
     bool listens() const { return MouseDown != nullptr; }
 
     MouseEvent MouseDown;
     MouseEvent MouseMove;
     MouseEvent MouseUp;
-    /// The part in which a held button moves things, in whole twips; at first, everywhere.
+    /// Where a held button drags, in whole twips; at first, everywhere.
     Rect dragBounds{.left = -1e6F, .top = -1e6F, .right = 1e6F, .bottom = 1e6F};
 
 protected:
@@ -130,9 +129,9 @@ public:
     const Font font;
     const TextAlign align;
 
-    // What it tells of other controls of its form, for those who do not see where it stands.
-    const Control* names = nullptr;     // the control whose name it shows
-    const Control* describes = nullptr; // the one that it tells more of; of a frame, the choice in it
+    // For screen readers: the controls of its form that it names and describes; for a frame, the choice in it.
+    const Control* names = nullptr;
+    const Control* describes = nullptr;
 };
 
 enum class ButtonFace { Caption, IconAboveCaption };
@@ -162,7 +161,7 @@ public:
                  Handler click, std::string tag = {}, Choice choice = Choice::Open);
 
     bool Value() const { return value_; }
-    /// Makes this the selected choice and raises its click; nothing happens when it is already.
+    /// Deselects the other choices and raises the click; does nothing if it is selected already.
     void Select();
     const std::string& Tag() const { return tag_; }
 
@@ -195,9 +194,9 @@ public:
     int Max() const { return max_; }
     void Max(int max);
     int Value() const { return value_; }
-    /// Brought into the range; raises the change when the value becomes another.
+    /// Clamps the value to the range; raises the change if it differs.
     void Value(int value);
-    /// Likewise, as the player does: nothing happens while its form takes no input.
+    /// The same for the player: does nothing while the form takes no input.
     void Slide(int value);
 
 private:

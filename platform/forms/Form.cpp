@@ -23,7 +23,7 @@ const CommandButton* buttonThat(const Condition& condition, const Container& con
     return nullptr;
 }
 
-/// Whether there is one to press.
+/// Whether there is such a button.
 template<class Condition>
 bool pressButtonThat(const Condition& condition, const Container& container) {
     const CommandButton* button = buttonThat(condition, container);

@@ -10,8 +10,8 @@ namespace tumble {
 /// An alert is a small dialog whose text screen readers speak as soon as it opens.
 enum class FormKind { Window, Alert };
 
-/// A window: its caption, its client area and its controls, which are members of the class that derives from it.
-/// Unloading a form takes it off the screen; showing it again loads it afresh.
+/// A window: its caption, its client area and its controls, which are members of the derived class. Unloading closes
+/// the window; showing the form again loads it afresh.
 class Form : public Container {
 public:
     /// Client size in twips.
@@ -22,7 +22,7 @@ public:
     /// No other form is modal, and the hourglass does not show over this one.
     bool takesInput() const override { return !desktop().blocks(*this) && pointer_ != Pointer::Hourglass; }
     const std::string& Caption() const { return caption_; }
-    /// Shows the next time the form is loaded.
+    /// The window has it from the next load on.
     void Caption(std::string caption) { caption_ = std::move(caption); }
     float Width() const override { return width_; }
     float Height() const { return height_; }
@@ -35,13 +35,13 @@ public:
     void Unload();
     /// Brings what was painted to the screen at once.
     void Refresh();
-    /// While the hourglass shows, the form takes no input and each painting reaches the screen as it is made.
+    /// While the hourglass shows, the form takes no input and each item reaches the screen as it is painted.
     void MousePointer(Pointer pointer);
     Pointer MousePointer() const { return pointer_; }
 
-    /// Presses the button that the key stands for, if there is one.
+    /// Clicks the button that the key presses, if there is one.
     void press(Key key) const;
-    /// Presses the button whose caption marks the letter, a capital, as its access key; false if there is none.
+    /// Clicks the button with the access key, a capital letter; false if there is none.
     bool pressAccessKey(char letter) const;
 
     /// Runs when the form is loaded, before it shows.

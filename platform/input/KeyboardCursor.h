@@ -5,18 +5,18 @@
 
 namespace tumble {
 
-/// The mark of the keyboard's pointer: where it lies, in twips of the surface, and whether the pointer holds a button.
+/// The keyboard pointer's place in twips of the surface, and whether it holds a button.
 struct KeyboardCursor {
     Point at;
     bool holds = false;
     friend bool operator==(const KeyboardCursor&, const KeyboardCursor&) = default;
 };
 
-/// The pixels that a desktop paints it over: as many to each side of the one in which it lies.
+/// The pixels that its mark covers: a square around the pixel of its place.
 PixelRect cursorPixels(const KeyboardCursor& cursor, PixelScale scale);
 
-/// Paints it on a transparent canvas of their size: a light line between dark ones, to be seen on every ground; while
-/// it holds, a dark disc with a light dot in it.
+/// Paints its mark on a transparent canvas of that size: a light ring between dark ones, visible on every ground; while
+/// it holds a button, a dark disc with a light dot.
 void paintCursor(Canvas& canvas, bool holds, PixelScale scale);
 
 } // namespace tumble

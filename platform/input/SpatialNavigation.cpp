@@ -9,7 +9,7 @@ namespace tumble {
 
 namespace {
 
-// In whole twips, so that a stop is surely on its item and on no cover, however places are rounded.
+// In whole twips, so that a stop lies on its item and on no cover, however places are rounded.
 Rect inwards(const Rect& rect) {
     return {.left = std::ceil(rect.left),
             .top = std::ceil(rect.top),
@@ -23,7 +23,7 @@ Rect outwards(const Rect& rect) {
             .bottom = std::ceil(rect.bottom)};
 }
 
-/// Keeps of rectangles the ones that lie in no other.
+/// Keeps only rectangles that lie in no other.
 void addLargest(std::vector<Rect>& rects, const Rect& added) {
     const auto holdsAdded = [&](const Rect& rect) { return rect.contains(added); };
     if (!added.empty() && std::none_of(rects.begin(), rects.end(), holdsAdded)) {
@@ -32,7 +32,7 @@ void addLargest(std::vector<Rect>& rects, const Rect& added) {
     }
 }
 
-/// What a cover leaves open of rectangles, again as the largest rectangles.
+/// The largest rectangles in what a cover leaves of others.
 std::vector<Rect> without(const std::vector<Rect>& open, const Rect& cover) {
     std::vector<Rect> rest;
     std::copy_if(open.begin(), open.end(), std::back_inserter(rest),
@@ -59,7 +59,7 @@ Point middleOfLargest(const std::vector<Rect>& rects) {
     return {std::floor((largest.left + largest.right) / 2), std::floor((largest.top + largest.bottom) / 2)};
 }
 
-/// The stop of the least cost; one of infinite cost is none.
+/// The stop of the least finite cost.
 template<class Cost>
 std::optional<Point> cheapest(const std::vector<Point>& stops, Cost cost) {
     std::optional<Point> best;
@@ -82,8 +82,8 @@ std::vector<Point> stops(const DisplayList& list, const Rect& part, const std::o
             opaque.push_back(&item);
         }
     }
-    const auto liesUnderRing = [&](const DisplayItem* item) { return cursor && item->bounds.contains(cursor->at); };
-    const auto top = std::find_if(opaque.rbegin(), opaque.rend(), liesUnderRing);
+    const auto liesUnderCursor = [&](const DisplayItem* item) { return cursor && item->bounds.contains(cursor->at); };
+    const auto top = std::find_if(opaque.rbegin(), opaque.rend(), liesUnderCursor);
     const DisplayItem* const under = top != opaque.rend() && !(*top)->erases(list.ground()) ? *top : nullptr;
     if (under != nullptr && cursor->holds) {
         std::erase(opaque, under);

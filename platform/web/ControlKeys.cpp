@@ -1,6 +1,8 @@
 #include "platform/web/ControlKeys.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <vector>
 
 namespace tumble {
@@ -9,22 +11,8 @@ namespace {
 
 /// How far a key leads in a row of so many values or choices: back if negative, 0 for a key that leads nowhere.
 int steps(Key key, int count) {
-    switch (key) {
-    case Key::Left:
-    case Key::Up:
-    case Key::PageUp:
-        return -1;
-    case Key::Right:
-    case Key::Down:
-    case Key::PageDown:
-        return 1;
-    case Key::Home:
-        return -count;
-    case Key::End:
-        return count;
-    default:
-        return 0;
-    }
+    const std::array byKey{-1, -1, 1, 1, -count, -1, count, 1};
+    return key <= Key::PageDown ? byKey.at(static_cast<std::size_t>(key)) : 0;
 }
 
 /// The option button so many after this one in its container, or before it; the button itself where there is none.

@@ -7,8 +7,8 @@
 
 namespace tumble {
 
-/// Shows a picture box's painting on a canvas element, in the exact pixels of the screen, and the mark of the keys'
-/// pointer on another above it.
+/// Shows a picture box on a canvas element, in the exact pixels of the screen, and the keyboard cursor on another one
+/// above it.
 class SurfaceElement : public SurfaceView {
 public:
     SurfaceElement(PictureBox& box, int element, PictureCache& pictures);
@@ -17,7 +17,7 @@ public:
     /// A place in pixels of the canvas.
     Point twips(double x, double y) const { return {scale_.twips(x), scale_.twips(y)}; }
 
-    /// The element has its place; it shows the painting at the new scale with `showNow`.
+    /// The size and scale that `showNow` shows from now on.
     void layOut(PixelSize size, PixelScale scale);
     void showNow() override;
 

@@ -18,7 +18,7 @@ namespace {
 constexpr double leastFrame = 16; // milliseconds
 constexpr float startDragDistance = 10 * twipsPerPixel;
 
-// As browsers name them, in the order of `Key`; the last ones are left to the browser.
+// The browsers' names, in the order of `Key`; those that are missing at the end are left to the browser.
 constexpr const char* keyNames =
     "ArrowLeft,ArrowUp,ArrowRight,ArrowDown,Home,PageUp,End,PageDown, ,f,ContextMenu,F10,Enter,Escape,F1";
 constexpr std::array buttons{leftButton, middleButton, rightButton}; // by a browser's numbers
@@ -95,7 +95,7 @@ bool WebDesktop::key(int focus, const KeyPress& press) {
 
 } // namespace tumble
 
-// What the page reports. Elements are numbers, lengths are pixels of the screen.
+// The page's reports. Elements are numbers, lengths are pixels of the screen.
 
 using namespace tumble;
 
@@ -109,7 +109,7 @@ EMSCRIPTEN_KEEPALIVE void page_input(int element, int value) {
     page().handle([=] { page().input(element, value); });
 }
 
-// Gives true for a key that the browser may have. Of a handler that is suspended the page gets false.
+// Returns true for a key that is left to the browser; false also when the handler is suspended.
 EMSCRIPTEN_KEEPALIVE bool page_key(int focus, int key, char letter, std::int16_t Shift, bool repeated) {
     bool taken = repeated;
     const KeyPress press{key < 0 ? Key::Other : static_cast<Key>(key), Shift, repeated, letter};

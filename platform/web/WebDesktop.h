@@ -12,14 +12,14 @@ namespace tumble {
 /// Asyncify can suspend one stack only, so a handler that runs meanwhile, of a modal form, must not block.
 class WebDesktop : public WindowDesktop {
 public:
-    /// Puts itself in use, for as long as the page lasts. Pictures that the painter does not know are crossed cards.
+    /// Puts itself in use for as long as the page lasts. A picture that the painter does not know is a crossed card.
     WebDesktop(Application application, PicturePainter painter);
 
     void Refresh(Form& form) override;
     void End() override;
     void painted(PictureBox& box, const DisplayItem& item) override;
 
-    // What the page reports.
+    // Reports of the page.
 
     /// Handles a report, if the game is not over, and then shows what was painted.
     template<class Report>
@@ -51,7 +51,7 @@ protected:
 
 private:
     static FormElement& formElement(FormView& view) { return static_cast<FormElement&>(view); }
-    /// Suspends the running handler for as long as the page waits.
+    /// Suspends the running handler until the page resumes it.
     void suspend(void (*wait)());
 
     PictureCache pictures_;

@@ -1,6 +1,6 @@
-// Keeps the files of the page, all of one version, so that the game also starts without a network. Only the files that
-// the build made are kept: a server that is being updated, or breaks off, leaves the version before in use. A new one
-// takes over when no page of the old one is open any more: a reload is not enough, the next start after that is.
+// Caches the files of the page, all of one version, so that the game also starts without a network. Only files with the
+// build's digests are cached: while a server is updated, or fails, the old version stays in use. A new version takes over
+// once no page of the old one is open: not at a reload, but at the next start.
 'use strict';
 
 const digests = {
@@ -29,8 +29,8 @@ const answer = async (request) => {
   return await caches.match(address, {cacheName: kept, ignoreVary: true}) ?? fetch(request);
 };
 
-// What the page has just loaded is only asked after. A server that tells versions apart by the second may answer wrongly,
-// which shows: then all is loaded anew.
+// The page has just loaded the files, so that they are only revalidated. A server whose dates are too coarse for that may
+// answer with an old file, which the digest shows: then all files are loaded again.
 self.addEventListener('install', (event) => event.waitUntil(keep('no-cache').catch(() => keep('reload'))));
 self.addEventListener('activate', (event) => event.waitUntil(forget()));
 self.addEventListener('fetch', (event) => event.respondWith(answer(event.request)));

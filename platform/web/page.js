@@ -1,23 +1,23 @@
-// What the page does for the program, and what it reports to it: nothing is decided here. The program knows elements by
-// numbers, lengths in pixels of the screen.
+// The page's side of the program: the functions that Page.h declares, and the events that it reports. Nothing is decided
+// here. The program refers to elements by numbers; lengths are pixels of the screen.
 /* global _page_input, _page_key, _page_mouse, _page_resized, _page_start, _page_touch */
 /* global Asyncify, HEAP32, HEAPF64, UTF8ToString */
 'use strict';
 
 const page = {
-  elements: [], // by their numbers, which are their ids
+  elements: [], // by number, which is the id too
   ratio: 1, // pixels of the screen for each of the page
   colours: {},
   ruler: document.createElement('canvas').getContext('2d'),
-  held: null, // the picture box on which a button went down that is still held
-  began: null, // the one on which the last press or touch began; null: elsewhere
+  held: null, // the picture box that a held button was pressed on
+  began: null, // the picture box that the last press or touch began on, if any
   pressTime: 0,
   wakeUp: null,
-  keys: [],
+  keys: [], // names, by the program's numbers
   touches: {pointerdown: 0, pointermove: 1, pointerup: 2, longpress: 3, pointercancel: 4}, // TouchEvent
 
   number(element) {
-    element.target = element.querySelector('input, canvas') ?? element; // what attributes and the focus are for
+    element.target = element.querySelector('input, canvas') ?? element; // of attributes and the focus
     element.number = element.id = page.elements.push(element) - 1;
     return element.number;
   },
@@ -32,7 +32,7 @@ const page = {
     const focus = document.activeElement.closest('[id]')?.id;
     _page_key(focus, key, letter, page.shiftKeys(event), event.repeat) || event.preventDefault();
   },
-  // The document hears of a held button whatever has come up meanwhile, and beyond its edges.
+  // The document listens, since it receives a held button beyond its edges and whatever dialog has opened.
   pointer(event) {
     const {type, pointerType, pointerId, button, buttons} = event;
     const touches = pointerType === 'touch';
@@ -70,9 +70,9 @@ const page = {
     on(['pointerdown'], () => document.body.classList.remove('keys'));
     on(['pointerdown', 'pointermove', 'pointerup', 'pointercancel'], page.pointer);
     on(['contextmenu', 'dragstart'], (event) => event.preventDefault());
-    // What is no control takes no focus.
+    // Only controls take the focus.
     on(['mousedown'], (event) => event.target.closest?.('button, label, input, a') ?? event.preventDefault());
-    // A tap on the table is no click on a box that has come up under it.
+    // A tap that began on a picture box ends in a click on whatever dialog has opened under the finger: ignored.
     on(['click', 'input'], ({target, detail}) => {
       const element = !(detail && page.began) && target.closest?.('button, input');
       page.began = null;
@@ -85,7 +85,7 @@ const page = {
 
     const main = document.querySelector('main');
     page.number(main);
-    // Rounding is the browser's business; where it does not tell, or tells of another screen, it is ours.
+    // The browser's own rounding counts, if it reports one that is up to date.
     const exact = (told, length) => Math.abs(told - length) < 1 ? told : Math.round(length);
     const resized = ({width, height}, told) => {
       page.ratio = Math.max(devicePixelRatio, leastWidth / width, leastHeight / height);
@@ -93,11 +93,11 @@ const page = {
       const size = [exact(told?.inlineSize, width * page.ratio), exact(told?.blockSize, height * page.ratio)];
       main.shows === (main.shows = `${size} ${page.ratio}`) || _page_resized(...size);
     };
-    resized(main.getBoundingClientRect()); // so that forms are in their places from the first
+    resized(main.getBoundingClientRect()); // before the first form is shown
     main.replaceChildren();
     const observer = new ResizeObserver(([entry]) => resized(entry.contentRect, entry.devicePixelContentBoxSize?.[0]));
     const tells = 'devicePixelContentBoxSize' in ResizeObserverEntry.prototype;
-    const observe = () => { // anew at another zoom, and on another screen
+    const observe = () => { // again at another zoom and on another screen
       observer.disconnect();
       observer.observe(main, {box: tells ? 'device-pixel-content-box' : 'content-box'});
       matchMedia(`(resolution: ${devicePixelRatio}dppx)`).addEventListener('change', observe, {once: true});
@@ -112,7 +112,7 @@ const page = {
     const element = document.getElementById(UTF8ToString(name)).content.firstElementChild.cloneNode(true);
     page.elements[parent].append(element);
     page.number(element);
-    element.target.name = parent; // one choice for each container
+    element.target.name = parent; // one group of option buttons for each container
     return element.number;
   },
   remove(number) {
@@ -137,7 +137,7 @@ const page = {
     const element = page.elements[number];
     const caption = UTF8ToString(text);
     if (element.caption === caption) {
-      return; // a live region would say it again
+      return; // a live region would be spoken again
     }
     element.caption = caption;
     const shows = element.querySelector('span');
@@ -185,7 +185,7 @@ const page = {
     setTimeout(wakeUp, document.hidden ? 0 : 100);
   })),
 
-  // Canvases. Between two calls nothing is transformed.
+  // Canvases. The transform is reset after each call.
 
   canvasMake: () => page.number(document.createElement('canvas')),
   canvasSize(canvas, width, height) {
@@ -212,7 +212,7 @@ const page = {
     context.fillStyle = page.colour(colour);
     context[colour < 0 ? 'clearRect' : 'fillRect'](left, top, width, height);
   },
-  // For each step seven numbers of eight bytes, of which the first is a whole one of four.
+  // Each step has seven fields of eight bytes: an integer of four, then doubles.
   canvasPath(canvas, colour, transform, steps, count, width, round) {
     const context = page.context(canvas);
     if (colour >= 0) {
@@ -245,5 +245,5 @@ const page = {
   },
 };
 
-// A browser that knows no dialogs keeps what the page says of it.
+// Without dialogs the game does not start, and the page keeps the text about browsers.
 globalThis.Module = {onRuntimeInitialized: () => globalThis.HTMLDialogElement && _page_start()};

@@ -10,7 +10,7 @@
 
 namespace tumble {
 
-/// Into how many lines a caption is broken: one, two at most, or as many as there is room for.
+/// Whether a caption stays in one line, or is broken into two at most, or as many as there is space for.
 enum class Wrap { No, Twice, Freely };
 
 struct CaptionStyle {
@@ -26,8 +26,8 @@ CaptionStyle captionStyle(const CommandButton& button);
 CaptionStyle captionStyle(const OptionButton& option);
 CaptionStyle captionStyle(const Frame& frame);
 
-/// The application's font in the size and width of a caption. A point is 4/3 of a pixel, whatever the screen says:
-/// places are fixed in pixels.
+/// The application's font in the size and width of a caption. A point is 4/3 of a pixel, whatever resolution the screen
+/// reports: places are fixed in pixels.
 struct CaptionFont {
     double points;
     bool bold = false;

@@ -26,8 +26,8 @@ PixelSize FormSize::at(double scale) const {
     return {rounded(width * scale), rounded(height * scale)};
 }
 
-double FormSize::scaleToFit(double roomWidth, double roomHeight) const {
-    return std::min(roomWidth / width, roomHeight / height);
+double FormSize::scaleToFit(double availableWidth, double availableHeight) const {
+    return std::min(availableWidth / width, availableHeight / height);
 }
 
 double showable(double scale, double ratio) {

@@ -5,26 +5,26 @@
 
 namespace tumble {
 
-// Windows and controls are placed in pixels of the desktop's choosing, the device's own or larger ones. A scale is how
-// many of them 15 twips are, a ratio how many of the device's each of them is.
+// A desktop places windows and controls in pixels of its own, device pixels or larger ones. The scale is the number of
+// them for 15 twips, the ratio the number of device pixels for each.
 
-/// How large a form is at scale 1.
+/// The size of a form at scale 1, in pixels.
 struct FormSize {
     /// In twips.
     FormSize(float Width, float Height);
 
     PixelSize at(double scale) const;
     /// The largest scale at which it fits.
-    double scaleToFit(double roomWidth, double roomHeight) const;
+    double scaleToFit(double availableWidth, double availableHeight) const;
 
     double width;
     double height;
 };
 
-/// Brings a scale into what can be shown at a ratio.
+/// Clamps a scale to those that can be shown at a ratio.
 double showable(double scale, double ratio);
 
-/// How a window shows its form.
+/// The scale and place of a form in its window.
 struct Layout {
     double scale = 1;
     PixelRect content{}; // in the window
@@ -38,8 +38,8 @@ struct Layout {
 /// The form as large as fits the window, in its middle.
 Layout layoutOf(const FormSize& form, PixelSize window, double ratio);
 
-/// The place that a desktop gives to a control. An option button shows no border: its caption may use half of the space
-/// to its neighbours above and below, and some of that on its right.
+/// The place that a control has in a window. An option button shows no border: its caption may use half of the space to
+/// its neighbours above and below, and some of the space on its right.
 Place allottedPlace(const Control& control);
 Place allottedPlace(const OptionButton& option);
 
