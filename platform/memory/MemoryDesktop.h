@@ -37,7 +37,7 @@ public:
         friend bool operator==(const Message&, const Message&) = default;
     };
 
-    /// Puts itself in use, until it goes.
+    /// Puts itself in use until it is destroyed.
     explicit MemoryDesktop(Application application);
     ~MemoryDesktop() override;
 

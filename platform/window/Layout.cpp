@@ -62,23 +62,23 @@ Place allottedPlace(const Control& control) {
 }
 
 Place allottedPlace(const OptionButton& option) {
-    const Place room = option.place();
-    const float end = room.Left + room.Width;
-    float free = room.Height;
+    const Place place = option.place();
+    const float end = place.Left + place.Width;
+    float free = place.Height;
     float right = std::min(option.container().Width() - end - optionGap, mostToTheRight);
     for (const AnyControl& any : option.container().controls()) {
         const Control& other = asControl(any);
         const auto& [otherLeft, otherTop, otherWidth, otherHeight] = other.place();
-        const float gap = std::max(otherTop - (room.Top + room.Height), room.Top - (otherTop + otherHeight));
-        const bool sideways = otherLeft >= end || room.Left >= otherLeft + otherWidth;
-        if (gap < 0 && otherLeft > room.Left) {
+        const float gap = std::max(otherTop - (place.Top + place.Height), place.Top - (otherTop + otherHeight));
+        const bool sideways = otherLeft >= end || place.Left >= otherLeft + otherWidth;
+        if (gap < 0 && otherLeft > place.Left) {
             right = std::min(right, otherLeft - end - optionGap);
         }
         if (&other != &option && !sideways) {
             free = std::clamp(gap, 0.0F, free);
         }
     }
-    return {room.Left, room.Top - free / 2, room.Width + std::max(right, 0.0F), room.Height + free};
+    return {place.Left, place.Top - free / 2, place.Width + std::max(right, 0.0F), place.Height + free};
 }
 
 } // namespace tumble

@@ -194,7 +194,7 @@ class Scenarios(Steps):
 
         def carried(*steps):
             game.mouse(*steps)
-            wait("the card under the hand", lambda: game.look(steps[-1]) == card)
+            wait("the card under the mouse", lambda: game.look(steps[-1]) == card)
 
         carried(*OUTSIDE, ASIDE)
         game.mouse(*BEYOND)
