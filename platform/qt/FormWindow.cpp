@@ -32,7 +32,7 @@ FormSize largestForm() {
 
 } // namespace
 
-FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures)
+FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, PictureCache& pictures)
     : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
       FormView(form, measure),
       formSize_(form.Width(), form.Height()),
@@ -41,7 +41,6 @@ FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const Q
       around_(form.kind == FormKind::Alert ? last.content : PixelRect()) {
     scale(last.scale);
     setWindowTitle(QString::fromStdString(form.Caption()));
-    setWindowIcon(icon);
     if (last.screen != nullptr) {
         setScreen(last.screen);
     }
@@ -56,7 +55,7 @@ FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const Q
     }
     windowHandle()->installEventFilter(this);
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
-    buildControls(form, *this, icon, pictures);
+    buildControls(form, *this, pictures);
     setTabOrderByIndex();
     layOutWindow();
 }
@@ -147,9 +146,9 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void FormWindow::buildControls(const Container& container, QWidget& parent, const QIcon& icon, PictureCache& pictures) {
+void FormWindow::buildControls(const Container& container, QWidget& parent, PictureCache& pictures) {
     for (const AnyControl& control : container.controls()) {
-        auto view = createView(control, *this, parent, icon, pictures);
+        auto view = createView(control, *this, parent, pictures);
         QWidget& widget = view->widget();
         widget.setObjectName(QString::fromStdString(asControl(control).Name()));
         widget.setStyle(&style_);
@@ -159,7 +158,7 @@ void FormWindow::buildControls(const Container& container, QWidget& parent, cons
         if (auto* surface = dynamic_cast<SurfaceWidget*>(&widget)) {
             add(*surface);
         } else if (auto* const* frame = std::get_if<Frame*>(&control)) {
-            buildControls(**frame, widget, icon, pictures);
+            buildControls(**frame, widget, pictures);
         }
     }
 }

@@ -4,7 +4,6 @@
 #include "platform/qt/WorkArea.h"
 #include "platform/window/FormView.h"
 
-#include <QIcon>
 #include <QPointer>
 #include <QScreen>
 #include <QWidget>
@@ -30,7 +29,7 @@ public:
     /// `last` is the place of the window in front until now, or of the last one, and that of this window once it is
     /// hidden. A modal window opens at its scale, another at the one that suits the program's largest form, in its
     /// state. An alert opens in the middle of its content, another window in the middle of the screen.
-    FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures);
+    FormWindow(Form& form, Modality modality, WindowPlace& last, PictureCache& pictures);
 
     void Show() override;
     void Hide() override;
@@ -48,7 +47,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void buildControls(const Container& container, QWidget& parent, const QIcon& icon, PictureCache& pictures);
+    void buildControls(const Container& container, QWidget& parent, PictureCache& pictures);
     void setTabOrderByIndex();
     WorkArea workArea() const { return {*screen(), frame_}; }
     void followScreen(QScreen* screen);

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QIcon>
 #include <QPixmap>
 #include <QTimer>
 #include <QWindow>
@@ -36,11 +37,13 @@ protected:
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
     : WindowDesktop(std::move(application), tumble::measure), pictures_(std::move(painter), decoded) {
+    QIcon icon;
     for (const int size : iconSizes) {
         QtCanvas canvas({size, size}, windowColour);
         pictures_.paint(canvas, App().Icon, canvas.bounds(), canvas.bounds());
-        icon_.addPixmap(QPixmap::fromImage(canvas.image()));
+        icon.addPixmap(QPixmap::fromImage(canvas.image()));
     }
+    QApplication::setWindowIcon(icon);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
     announceWidgets();
@@ -66,9 +69,9 @@ std::shared_ptr<FormView> QtDesktop::open(Form& form, Modality modality) {
         place_ = front->place();
     }
     // Of a window that is not modal, which `Show` does not wait for, a handler may still run when nobody keeps it.
-    const std::shared_ptr<FormWindow> window(
-        new FormWindow(form, modality, place_, icon_, pictures_),
-        [](FormWindow* closed) { closed->isModal() ? delete closed : closed->deleteLater(); });
+    const std::shared_ptr<FormWindow> window(new FormWindow(form, modality, place_, pictures_), [](FormWindow* closed) {
+        closed->isModal() ? delete closed : closed->deleteLater();
+    });
     if (modality == Modality::Modal && front != nullptr) {
         window->windowHandle()->setTransientParent(front->windowHandle());
     }

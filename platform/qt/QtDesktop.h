@@ -5,8 +5,6 @@
 #include "platform/qt/KeyFilter.h"
 #include "platform/window/WindowDesktop.h"
 
-#include <QIcon>
-
 #include <memory>
 
 namespace tumble {
@@ -35,7 +33,6 @@ private:
     FormWindow* inFront() const { return static_cast<FormWindow*>(WindowDesktop::inFront()); }
 
     PictureCache pictures_;
-    QIcon icon_;
     KeyFilter keyFilter_;
     WindowPlace place_; // of the window before
     bool ended_ = false;
