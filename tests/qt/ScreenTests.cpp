@@ -239,19 +239,19 @@ TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
 }
 
 TEST(WorkAreaTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
-    using Case = std::tuple<PixelSize, double, double>;
+    using Case = std::tuple<QSize, double, double>;
     for (const auto& [screen, ratio, scale] :
          {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
           Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
           Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
-        const WorkArea area({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
-        EXPECT_NEAR(area.openingScale(FormSize(9525, 6630)), scale, 1e-9) << screen.width;
-        EXPECT_NEAR(area.leastScale(FormSize(9525, 6630)), std::min(scale, 1.0), 1e-9) << screen.width;
+        const WorkArea area({{-100, 0}, screen}, screen, ratio, {});
+        EXPECT_NEAR(area.openingScale(FormSize(9525, 6630)), scale, 1e-9) << screen.width();
+        EXPECT_NEAR(area.leastScale(FormSize(9525, 6630)), std::min(scale, 1.0), 1e-9) << screen.width();
     }
-    const WorkArea area({0, 0, 799, 559}, {800, 600}, 1, {});
-    EXPECT_EQ(area.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
-    EXPECT_EQ(area.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
-    EXPECT_EQ(area.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
+    const WorkArea area({0, 0, 800, 560}, {800, 600}, 1, {});
+    EXPECT_EQ(area.place({50, 50}, {500, 300, 100, 300}), QRect(525, 425, 50, 50));
+    EXPECT_EQ(area.place({300, 300}, {700, 400, 100, 200}), QRect(496, 256, 300, 300)) << "moved in";
+    EXPECT_EQ(area.place({900, 700}, {700, 400, 100, 200}), QRect(4, 32, 900, 700)) << "too large";
 }
 
 } // namespace
