@@ -22,17 +22,6 @@ namespace {
 constexpr std::array iconSizes{16, 24, 32, 48, 64, 128};
 constexpr int longestWaitForScreen = 1000; // milliseconds
 
-/// Returns when a window that it filters the events of shows.
-class UntilExposed : public QEventLoop {
-protected:
-    bool eventFilter(QObject* /*window*/, QEvent* event) override {
-        if (event->type() == QEvent::Expose) {
-            quit();
-        }
-        return false;
-    }
-};
-
 } // namespace
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
@@ -45,7 +34,7 @@ QtDesktop::QtDesktop(Application application, PicturePainter painter)
     }
     QApplication::setWindowIcon(icon);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
+    QApplication::setLayoutDirection(Qt::LeftToRight); // forms state places, which no language mirrors
     announceWidgets();
     qApp->installEventFilter(&keyFilter_);
     desktop(this);
@@ -68,7 +57,7 @@ std::shared_ptr<FormView> QtDesktop::open(Form& form, Modality modality) {
     if (front != nullptr) {
         place_ = front->place();
     }
-    // Of a window that is not modal, which `Show` does not wait for, a handler may still run when nobody keeps it.
+    // `Show` does not wait for a modeless window, so one of its handlers may still run when its last owner is gone.
     const std::shared_ptr<FormWindow> window(new FormWindow(form, modality, place_, pictures_), [](FormWindow* closed) {
         closed->isModal() ? delete closed : closed->deleteLater();
     });
@@ -85,17 +74,17 @@ void QtDesktop::waitFor(FormView& window) {
     window.onClosed = nullptr;
 }
 
-// A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
+// A window paints nothing before the windowing system has exposed it. The player's input waits meanwhile.
 void QtDesktop::Refresh(Form& form) {
     const QPointer<FormWindow> window = windowOf(form);
     if (window == nullptr || !window->isVisible()) {
         return;
     }
-    if (!window->windowHandle()->isExposed()) {
-        UntilExposed untilExposed;
-        window->windowHandle()->installEventFilter(&untilExposed);
-        QTimer::singleShot(longestWaitForScreen, &untilExposed, &QEventLoop::quit);
-        untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    deadline.start(longestWaitForScreen);
+    while (window != nullptr && !window->windowHandle()->isExposed() && deadline.isActive()) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
     if (window != nullptr) {
         for (SurfaceView* surface : window->surfaces()) {
