@@ -18,8 +18,8 @@ constexpr unsigned longestWait = 10; // seconds
     std::_Exit(1);
 }
 
-// A display may keep the program waiting for ever. 0 ends the wait. Where there is no alarm, the display is the system's
-// own and always answers.
+// A display may keep the program waiting for ever; 0 ends the wait. Systems without an alarm have a display of their
+// own, which answers.
 void expectAnswerWithin([[maybe_unused]] unsigned seconds) {
 #ifdef SIGALRM
     static_cast<void>(std::signal(SIGALRM, [](int /*signal*/) { giveUp("tumble: the display does not answer\n"); }));

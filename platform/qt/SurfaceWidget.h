@@ -27,7 +27,7 @@ public:
     void showNow() override;
     void inputUnblocked() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* window, QEvent* event) override;
 
 protected:
     bool event(QEvent* event) override;
