@@ -84,9 +84,9 @@ TEST_F(Inputs, KeysMoveAPointerWhoseRingShowsWithTheFocus) {
         {Qt::Key_F, "down 2 up 2 ", "Eight of Hearts"},
         {Qt::Key_Home, "", "Pile (empty)"},
         {Qt::Key_Right, "", "Two of Diamonds"}};
-    for (const auto& [key, told, name] : steps) {
+    for (const auto& [key, buttons, name] : steps) {
         QTest::keyClick(surface, key, key == Qt::Key_F10 ? Qt::ShiftModifier : Qt::NoModifier);
-        EXPECT_EQ(receivedSince(), told);
+        EXPECT_EQ(receivedSince(), buttons);
         EXPECT_EQ(mainMod.table().lblCurrentCard.Caption(), name);
     }
     const int side = qRound(26 * surface->devicePixelRatioF());
