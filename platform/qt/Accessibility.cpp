@@ -5,7 +5,6 @@
 #include "platform/window/FormView.h"
 
 #include <QAccessibleWidget>
-#include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
 
@@ -13,8 +12,8 @@ namespace tumble {
 
 namespace {
 
-/// A surface's description as an item on it that has the focus when the surface does: readers speak that, where they
-/// pass over a description that changes; and of an item, other than of a label, they say no more than its text.
+/// Speaks a surface's description as the name of a focused list item. Screen readers ignore a changed description but
+/// speak an item that receives the focus, and of a list item, unlike a label, only its text.
 class SpokenItem : public QAccessibleInterface {
 public:
     explicit SpokenItem(QAccessibleInterface& surface) : surface_(surface) {}
@@ -44,7 +43,7 @@ public:
     explicit AccessibleSurface(SurfaceWidget& surface) : QAccessibleWidget(&surface, QAccessible::Graphic) {}
     ~AccessibleSurface() override { forget(); }
 
-    /// By a new item: of one that had the focus before, readers say nothing.
+    /// Creates a new item: readers ignore one that had the focus before.
     void speak() {
         forget();
         spoken_ = new SpokenItem(*this);
@@ -66,7 +65,7 @@ private:
         }
     }
 
-    SpokenItem* spoken_ = nullptr; // the toolkit's
+    SpokenItem* spoken_ = nullptr; // owned by the toolkit
 };
 
 void describe(QWidget& widget, const QString& text) {
@@ -110,11 +109,11 @@ void relate(const Label& label, QLabel& widget) {
         return;
     }
     QWidget* described = widgetOf(*label.describes);
-    if (qobject_cast<QGroupBox*>(described) == nullptr) {
+    const auto choices = described->findChildren<QRadioButton*>();
+    if (choices.isEmpty()) {
         describe(*described, widget.text());
-        return;
     }
-    for (QRadioButton* choice : described->findChildren<QRadioButton*>()) {
+    for (QRadioButton* choice : choices) {
         describe(*choice, choice->isChecked() ? widget.text() : QString());
     }
 }

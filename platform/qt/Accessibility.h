@@ -6,11 +6,11 @@ class QLabel;
 
 namespace tumble {
 
-/// Makes windows and surfaces known to screen readers as what they are.
+/// Gives windows and surfaces their accessible roles.
 void announceWidgets();
 
-/// Brings what a label, which the widget shows, tells of other controls of its window to screen readers. A surface that
-/// has the focus speaks when its description has become another.
+/// Passes to screen readers the name or description that a label, shown by the widget, gives another control of its
+/// window. A focused surface speaks when its description has changed.
 void relate(const Label& label, QLabel& widget);
 
 } // namespace tumble

@@ -18,7 +18,7 @@ void drawFrame(QPainter& painter, const QPalette& palette, const QRect& outside,
     painter.drawRoundedRect(QRectF(outside).adjusted(inwards, inwards, -inwards, -inwards), 2, 2);
 }
 
-// What has the keyboard's attention, once the player uses the keyboard. Styles differ in whether one sees it.
+// The frame shows once the player uses the keyboard. Not every style draws a visible one.
 void drawFocus(QPainter& painter, const QStyleOptionButton& option, const QRect& place) {
     if (option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
         drawFrame(painter, option.palette, place, 1);
@@ -27,7 +27,7 @@ void drawFocus(QPainter& painter, const QStyleOptionButton& option, const QRect&
 
 } // namespace
 
-// Styles place the mark by a size of their own, whatever size they are asked to give it.
+// Styles place the mark by the metric's size, whatever rectangle they receive.
 QRect WrappingRadioButton::markPlace() const {
     const QSize size(style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this),
                      style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, nullptr, this));
@@ -43,15 +43,15 @@ void WrappingRadioButton::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const QRect room = captionArea();
+    const QRect space = captionArea();
     constexpr int flags = captionFlags | Qt::AlignLeft | Qt::AlignVCenter;
-    const QRect caption = painter.fontMetrics().boundingRect(room, flags, text());
+    const QRect caption = painter.fontMetrics().boundingRect(space, flags, text());
 
     QStyleOptionButton mark = option;
     mark.rect = markPlace();
     mark.state.setFlag(QStyle::State_HasFocus, false);
     painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, mark);
-    painter.drawItemText(room, flags, palette(), isEnabled(), text(), QPalette::WindowText);
+    painter.drawItemText(space, flags, palette(), isEnabled(), text(), QPalette::WindowText);
     drawFocus(painter, option, caption.adjusted(-2, -1, 2, 1).intersected(rect()));
 }
 
@@ -65,19 +65,17 @@ void FormButton::paintEvent(QPaintEvent* /*event*/) {
     initStyleOption(&option);
     QStyleOptionButton unfocused = option;
     unfocused.state.setFlag(QStyle::State_HasFocus, false);
-    drawFace(painter, unfocused);
-    if (isDefault()) { // some styles show it as any other
+    painter.drawControl(icon().isNull() ? QStyle::CE_PushButton : QStyle::CE_PushButtonBevel, unfocused);
+    if (!icon().isNull()) {
+        drawIconAboveCaption(painter);
+    }
+    if (isDefault()) { // not every style marks it
         drawFrame(painter, option.palette, rect(), 2);
     }
     drawFocus(painter, option, rect().adjusted(4, 4, -4, -4));
 }
 
-void FormButton::drawFace(QStylePainter& painter, const QStyleOptionButton& option) const {
-    painter.drawControl(QStyle::CE_PushButton, option);
-}
-
-void IconAboveButton::drawFace(QStylePainter& painter, const QStyleOptionButton& option) const {
-    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+void FormButton::drawIconAboveCaption(QStylePainter& painter) const {
     const int gap = iconSize().height() / 16;
     const int captionHeight = painter.fontMetrics().height();
     const int top = (height() - iconSize().height() - gap - captionHeight) / 2;

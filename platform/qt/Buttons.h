@@ -3,17 +3,16 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-class QStyleOptionButton;
 class QStylePainter;
 
 namespace tumble {
 
-/// An option button whose caption wraps, and which is selected by a click anywhere in its place.
+/// An option button whose caption wraps. A click anywhere in its place selects it.
 class WrappingRadioButton : public QRadioButton {
 public:
     using QRadioButton::QRadioButton;
 
-    /// Where the caption goes, in the button's own logical pixels.
+    /// The place of the caption in the button, in logical pixels.
     QRect captionArea() const;
 
 protected:
@@ -24,23 +23,16 @@ private:
     QRect markPlace() const;
 };
 
-/// A button that has a frame around it when it is the default one, in every style.
+/// A button that is framed in every style while it is the default one. Its icon, if it has one, lies above its caption.
 class FormButton : public QPushButton {
 public:
     using QPushButton::QPushButton;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    virtual void drawFace(QStylePainter& painter, const QStyleOptionButton& option) const;
-};
 
-/// A button that shows its icon above its caption.
-class IconAboveButton : public FormButton {
-public:
-    IconAboveButton(const QIcon& icon, QWidget& parent) : FormButton(icon, {}, &parent) {}
-
-protected:
-    void drawFace(QStylePainter& painter, const QStyleOptionButton& option) const override;
+private:
+    void drawIconAboveCaption(QStylePainter& painter) const;
 };
 
 } // namespace tumble

@@ -12,14 +12,15 @@ QRect CaptionedFrame::captionArea() const {
 
 void CaptionedFrame::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
-    const QRect room = captionArea();
-    const QRect caption = painter.fontMetrics().boundingRect(room, Qt::AlignLeft | Qt::AlignVCenter, title());
+    const QRect space = captionArea();
+    const QRect caption = painter.fontMetrics().boundingRect(space, Qt::AlignLeft | Qt::AlignVCenter, title());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(withContrast(palette().color(QPalette::Mid), palette()));
     painter.setClipRegion(QRegion(rect()) - caption.adjusted(-3, 0, 3, 0));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, room.center().y() + 0.5, -0.5, -0.5), 3, 3);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, space.center().y() + 0.5, -0.5, -0.5), 3, 3);
     painter.setClipping(false);
-    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), title(), QPalette::WindowText);
+    painter.drawItemText(space, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), title(),
+                         QPalette::WindowText);
 }
 
 } // namespace tumble

@@ -4,12 +4,12 @@
 
 namespace tumble {
 
-/// A group box whose caption interrupts its upper line; the whole box below is its controls'.
+/// A group box whose caption interrupts its upper line. Nothing else reduces the space of its controls.
 class CaptionedFrame : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
 
-    /// In logical pixels; the upper line runs through the caption's middle.
+    /// In logical pixels. The upper line passes through the middle of the caption.
     void captionHeight(int height) { captionHeight_ = height; }
 
     /// The place of the caption in the frame.

@@ -10,7 +10,7 @@ namespace {
 constexpr double leastContrast = 3;
 constexpr int steps = 20;
 
-// As the guidelines for accessible content on the web define it, and the contrast.
+// Relative luminance and contrast ratio as WCAG defines them.
 double luminance(const QColor& colour) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -23,10 +23,6 @@ double contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-int between(int from, int to, int step) {
-    return from + (to - from) * step / steps;
-}
-
 } // namespace
 
 QColor withContrast(const QColor& colour, const QPalette& palette) {
@@ -36,8 +32,9 @@ QColor withContrast(const QColor& colour, const QPalette& palette) {
         return contrast(line, palette.color(ground)) < leastContrast;
     };
     for (int step = 1; step <= steps && (lostOn(QPalette::Window) || lostOn(QPalette::Button)); ++step) {
-        line = QColor(between(colour.red(), text.red(), step), between(colour.green(), text.green(), step),
-                      between(colour.blue(), text.blue(), step));
+        const auto mixed = [&](int from, int to) { return from + (to - from) * step / steps; };
+        line = QColor(mixed(colour.red(), text.red()), mixed(colour.green(), text.green()),
+                      mixed(colour.blue(), text.blue()));
     }
     return line;
 }

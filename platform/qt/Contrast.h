@@ -5,8 +5,8 @@
 
 namespace tumble {
 
-/// The colour, brought towards the palette's text as far as a line needs it to be seen on the window and on a button:
-/// to a contrast of 3:1.
+/// The colour, mixed with the palette's text colour until its contrast with windows and buttons is at least 3:1, as
+/// a visible line needs. The text colour itself where no mixture reaches that.
 QColor withContrast(const QColor& colour, const QPalette& palette);
 
 } // namespace tumble

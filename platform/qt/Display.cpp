@@ -1,8 +1,5 @@
 #include "platform/qt/Display.h"
 
-#include <QGuiApplication>
-#include <QLoggingCategory>
-
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -15,14 +12,14 @@ namespace {
 
 constexpr unsigned longestWait = 10; // seconds
 
-// Also called from a signal handler: nothing here but what may be.
+// Async-signal-safe: a signal handler calls it too.
 [[noreturn]] void giveUp(std::string_view why) {
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, why.data(), why.size());
     std::_Exit(1);
 }
 
-// A display may keep the program waiting for ever, on systems that know an alarm; elsewhere it is the system's own.
-// No seconds: it has answered.
+// A display may keep the program waiting for ever; 0 ends the wait. Systems without an alarm have a display of their
+// own, which answers.
 void expectAnswerWithin([[maybe_unused]] unsigned seconds) {
 #ifdef SIGALRM
     static_cast<void>(std::signal(SIGALRM, [](int /*signal*/) { giveUp("tumble: the display does not answer\n"); }));
@@ -30,8 +27,8 @@ void expectAnswerWithin([[maybe_unused]] unsigned seconds) {
 #endif
 }
 
-// The toolkit tells its troubles with the display in several lines, and then aborts where it finds none. What becomes
-// of a display at the session's end is no news to anybody.
+// Without a display the toolkit would print several lines and abort. Other messages are dropped: a display that closes
+// at the session's end needs no warning.
 void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type == QtFatalMsg) {
         giveUp("tumble: there is no display to open a window on\n");
@@ -47,7 +44,7 @@ Display::Display() {
 
     qInstallMessageHandler(onMessage);
     expectAnswerWithin(longestWait);
-    QGuiApplication::setDesktopFileName(QStringLiteral(TUMBLE_ID));
+    QApplication::setDesktopFileName(QStringLiteral(TUMBLE_ID));
     application_.emplace(count, arguments.data());
     expectAnswerWithin(0);
 }

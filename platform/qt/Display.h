@@ -6,8 +6,8 @@
 
 namespace tumble {
 
-/// The connection to the display. Where there is none, or none that answers within some seconds, it ends the process
-/// with one line on standard error and status 1. The toolkit gets no command line.
+/// The connection to the display. If there is none, or it does not answer within some seconds, the process ends with
+/// one line on standard error and status 1. The toolkit receives no command line.
 class Display {
 public:
     Display();

@@ -32,16 +32,15 @@ FormSize largestForm() {
 
 } // namespace
 
-FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const QIcon& icon, PictureCache& pictures)
+FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, PictureCache& pictures)
     : QWidget(nullptr, modality == Modality::Modal ? dialogFlags : Qt::Window),
       FormView(form, measure),
       formSize_(form.Width(), form.Height()),
       last_(last),
       frame_(last.frame),
-      around_(form.kind == FormKind::Alert ? last.content : PixelRect()) {
+      around_(form.kind == FormKind::Alert ? last.content : QRect()) {
     scale(last.scale);
     setWindowTitle(QString::fromStdString(form.Caption()));
-    setWindowIcon(icon);
     if (last.screen != nullptr) {
         setScreen(last.screen);
     }
@@ -56,7 +55,7 @@ FormWindow::FormWindow(Form& form, Modality modality, WindowPlace& last, const Q
     }
     windowHandle()->installEventFilter(this);
     connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::followScreen);
-    buildControls(form, *this, icon, pictures);
+    buildControls(form, *this, pictures);
     setTabOrderByIndex();
     layOutWindow();
 }
@@ -84,7 +83,11 @@ void FormWindow::detach() {
 }
 
 WindowPlace FormWindow::place() const {
-    return {screen(), frame_, windowState() & wholeScreen, FormView::scale(), toPixelRect(geometry())};
+    return {screen(), frame_, windowState() & wholeScreen, FormView::scale(), geometry()};
+}
+
+WorkArea FormWindow::workArea() const {
+    return {screen()->availableGeometry(), screen()->size(), screen()->devicePixelRatio(), frame_};
 }
 
 void FormWindow::followScreen(QScreen* screen) {
@@ -102,7 +105,7 @@ QRect FormWindow::openingPlace() const {
     const WorkArea area = workArea();
     const double wanted = isModal() ? scale() : area.openingScale(largestForm());
     const PixelSize content = formSize_.at(std::min(wanted, area.largestScale(formSize_)));
-    return toQRect(area.place(content, around_.empty() ? area.area() : around_));
+    return area.place(toQSize(content), around_.isNull() ? area.area() : around_);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -116,7 +119,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose) {
         learnFrame();
     }
-    // Some themes give Enter to the button that has the focus; here it is the default button's.
+    // Some themes let Enter press the focused button; here it always presses the default one.
     if (watched->isWidgetType() && event->type() == QEvent::KeyPress &&
         keyOf(static_cast<QKeyEvent&>(*event)) == Key::Enter) {
         keyPressEvent(static_cast<QKeyEvent*>(event));
@@ -125,12 +128,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-// The frame comes with the window: the first window opens for a usual frame, and is corrected as soon as it shows.
+// The first window opens for a usual frame; its own is known, and its geometry corrected, as soon as it shows.
 void FormWindow::learnFrame() {
     if (!frame_ && (windowState() & wholeScreen) == Qt::WindowNoState) {
         const bool asOpened = size() == openingPlace().size();
-        const QMargins margins = windowHandle()->frameMargins();
-        frame_ = {margins.left(), margins.top(), margins.right(), margins.bottom()};
+        frame_ = windowHandle()->frameMargins();
         keepLeastSize();
         if (asOpened) {
             setGeometry(openingPlace());
@@ -147,19 +149,21 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void FormWindow::buildControls(const Container& container, QWidget& parent, const QIcon& icon, PictureCache& pictures) {
+void FormWindow::buildControls(const Container& container, QWidget& parent, PictureCache& pictures) {
     for (const AnyControl& control : container.controls()) {
-        auto view = createView(control, *this, parent, icon, pictures);
+        auto view = createView(control, *this, parent, pictures);
         QWidget& widget = view->widget();
         widget.setObjectName(QString::fromStdString(asControl(control).Name()));
         widget.setStyle(&style_);
         widget.installEventFilter(this);
-        byTabIndex_.emplace(asControl(control).TabIndex(), &widget);
+        if (widget.focusPolicy() != Qt::NoFocus) {
+            byTabIndex_.emplace(asControl(control).TabIndex(), &widget);
+        }
         add(control, std::move(view));
         if (auto* surface = dynamic_cast<SurfaceWidget*>(&widget)) {
             add(*surface);
         } else if (auto* const* frame = std::get_if<Frame*>(&control)) {
-            buildControls(**frame, widget, icon, pictures);
+            buildControls(**frame, widget, pictures);
         }
     }
 }
@@ -167,9 +171,6 @@ void FormWindow::buildControls(const Container& container, QWidget& parent, cons
 void FormWindow::setTabOrderByIndex() {
     QWidget* before = nullptr;
     for (const auto& [index, widget] : byTabIndex_) {
-        if (widget->focusPolicy() == Qt::NoFocus) {
-            continue;
-        }
         if (before == nullptr) {
             widget->setFocus();
         } else {
@@ -179,17 +180,11 @@ void FormWindow::setTabOrderByIndex() {
     }
 }
 
-// Beside the content the ground is darker, so that it reads as one thing; a line left over by rounding is no ground.
+// A darker ground sets the content off; a line that rounding leaves beside it keeps the content's colour.
 void FormWindow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setClipRegion(QRegion(rect()) - toQRect(formLayout().content).adjusted(-1, -1, 1, 1));
     painter.fillRect(rect(), palette().color(QPalette::Window).darker(darkerBeside));
-}
-
-void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
-    if (form() != nullptr) {
-        layOutWindow();
-    }
 }
 
 void FormWindow::layOutWindow() {

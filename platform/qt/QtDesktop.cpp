@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QIcon>
 #include <QPixmap>
 #include <QTimer>
 #include <QWindow>
@@ -21,28 +22,19 @@ namespace {
 constexpr std::array iconSizes{16, 24, 32, 48, 64, 128};
 constexpr int longestWaitForScreen = 1000; // milliseconds
 
-/// Returns when a window that it filters the events of shows.
-class UntilExposed : public QEventLoop {
-protected:
-    bool eventFilter(QObject* /*window*/, QEvent* event) override {
-        if (event->type() == QEvent::Expose) {
-            quit();
-        }
-        return false;
-    }
-};
-
 } // namespace
 
 QtDesktop::QtDesktop(Application application, PicturePainter painter)
     : WindowDesktop(std::move(application), tumble::measure), pictures_(std::move(painter), decoded) {
+    QIcon icon;
     for (const int size : iconSizes) {
         QtCanvas canvas({size, size}, windowColour);
         pictures_.paint(canvas, App().Icon, canvas.bounds(), canvas.bounds());
-        icon_.addPixmap(QPixmap::fromImage(canvas.image()));
+        icon.addPixmap(QPixmap::fromImage(canvas.image()));
     }
+    QApplication::setWindowIcon(icon);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setLayoutDirection(Qt::LeftToRight); // as the forms have it, whatever the system's language
+    QApplication::setLayoutDirection(Qt::LeftToRight); // forms state places, which no language mirrors
     announceWidgets();
     qApp->installEventFilter(&keyFilter_);
     desktop(this);
@@ -65,10 +57,10 @@ std::shared_ptr<FormView> QtDesktop::open(Form& form, Modality modality) {
     if (front != nullptr) {
         place_ = front->place();
     }
-    // Of a window that is not modal, which `Show` does not wait for, a handler may still run when nobody keeps it.
-    const std::shared_ptr<FormWindow> window(
-        new FormWindow(form, modality, place_, icon_, pictures_),
-        [](FormWindow* closed) { closed->isModal() ? delete closed : closed->deleteLater(); });
+    // `Show` does not wait for a modeless window, so one of its handlers may still run when its last owner is gone.
+    const std::shared_ptr<FormWindow> window(new FormWindow(form, modality, place_, pictures_), [](FormWindow* closed) {
+        closed->isModal() ? delete closed : closed->deleteLater();
+    });
     if (modality == Modality::Modal && front != nullptr) {
         window->windowHandle()->setTransientParent(front->windowHandle());
     }
@@ -82,17 +74,17 @@ void QtDesktop::waitFor(FormView& window) {
     window.onClosed = nullptr;
 }
 
-// A window paints nothing before the windowing system has exposed it; what the player does meanwhile waits.
+// A window paints nothing before the windowing system has exposed it. The player's input waits meanwhile.
 void QtDesktop::Refresh(Form& form) {
     const QPointer<FormWindow> window = windowOf(form);
     if (window == nullptr || !window->isVisible()) {
         return;
     }
-    if (!window->windowHandle()->isExposed()) {
-        UntilExposed untilExposed;
-        window->windowHandle()->installEventFilter(&untilExposed);
-        QTimer::singleShot(longestWaitForScreen, &untilExposed, &QEventLoop::quit);
-        untilExposed.exec(QEventLoop::ExcludeUserInputEvents);
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    deadline.start(longestWaitForScreen);
+    while (window != nullptr && !window->windowHandle()->isExposed() && deadline.isActive()) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
     if (window != nullptr) {
         for (SurfaceView* surface : window->surfaces()) {

@@ -5,8 +5,6 @@
 #include "platform/qt/KeyFilter.h"
 #include "platform/window/WindowDesktop.h"
 
-#include <QIcon>
-
 #include <memory>
 
 namespace tumble {
@@ -14,7 +12,7 @@ namespace tumble {
 /// The real desktop, on Qt Widgets. Needs a QApplication that outlives it.
 class QtDesktop : public WindowDesktop {
 public:
-    /// Puts itself in use, until it goes. Pictures that the painter does not know are scaled from their bytes.
+    /// The desktop in use until it is destroyed. Pictures that the painter does not know are decoded and scaled.
     explicit QtDesktop(Application application, PicturePainter painter = {});
     ~QtDesktop() override;
 
@@ -30,14 +28,12 @@ protected:
     void waitFor(FormView& window) override;
 
 private:
-    // As the base has them.
     FormWindow* windowOf(const Form& form) const { return static_cast<FormWindow*>(WindowDesktop::windowOf(form)); }
     FormWindow* inFront() const { return static_cast<FormWindow*>(WindowDesktop::inFront()); }
 
     PictureCache pictures_;
-    QIcon icon_;
     KeyFilter keyFilter_;
-    WindowPlace place_; // of the window before
+    WindowPlace place_; // of the last window
     bool ended_ = false;
 };
 

@@ -8,7 +8,7 @@ namespace tumble {
 
 namespace {
 
-constexpr int largestMark = 15; // pixels of the unscaled window, in which the narrowest rows are 16 apart
+constexpr int largestMark = 15; // pixels at scale 1, where the closest rows are 16 apart
 
 } // namespace
 

@@ -4,10 +4,10 @@
 
 namespace tumble {
 
-/// The desktop's own style with the marks of its controls as large as their captions.
+/// The desktop's own style, with the marks of controls scaled like their captions.
 class ScaledStyle : public QProxyStyle {
 public:
-    /// On a style of the application's own kind.
+    /// Based on a new style of the application's kind.
     ScaledStyle();
 
     /// Logical pixels for each pixel of the unscaled window.

@@ -12,11 +12,9 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyleHints>
-#include <QTimerEvent>
 #include <QTouchEvent>
 #include <QWindow>
 
-#include <array>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -25,8 +23,8 @@ namespace tumble {
 
 namespace {
 
-/// The frame around a picture box that has the keyboard's attention. It lies outside, so that it covers no card. Screen
-/// readers are not told of a focus frame.
+/// The focus ring of a picture box. It lies outside the box, so that it covers no card. Screen readers skip a
+/// `QFocusFrame`.
 class FocusFrame : public QFocusFrame {
 public:
     using QFocusFrame::QFocusFrame;
@@ -39,17 +37,12 @@ protected:
     }
 };
 
-constexpr int focusFrameWidth = 3; // logical pixels, with a pixel of space inside
+constexpr QMargins focusFrameMargins(3, 3, 3, 3); // logical pixels: a ring of two, and one of space inside it
 
-constexpr std::array buttons{std::pair(Qt::LeftButton, leftButton), std::pair(Qt::RightButton, rightButton),
-                             std::pair(Qt::MiddleButton, middleButton)};
+static_assert(Qt::LeftButton == leftButton && Qt::RightButton == rightButton && Qt::MiddleButton == middleButton);
 
 std::int16_t sumOf(Qt::MouseButtons held) {
-    int sum = 0;
-    for (const auto& [qtButton, button] : buttons) {
-        sum += held.testFlag(qtButton) ? button : 0;
-    }
-    return static_cast<std::int16_t>(sum);
+    return static_cast<std::int16_t>(held & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton));
 }
 
 std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
@@ -63,8 +56,7 @@ std::int16_t shiftKeys(Qt::KeyboardModifiers keys) {
 } // namespace
 
 double pixelRatio(const QWidget& widget) {
-    const double ratio = widget.devicePixelRatioF();
-    return ratio >= 1 ? ratio : 1;
+    return qMax(1.0, widget.devicePixelRatioF());
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent)
@@ -74,11 +66,16 @@ SurfaceWidget::SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* p
     setAttribute(Qt::WA_AcceptTouchEvents, box.listens());
     setFocusPolicy(box.listens() ? Qt::StrongFocus : Qt::TabFocus);
     focusFrame_->hide();
+    longPress_.setSingleShot(true);
+    longPress_.callOnTimeout(this, [this] {
+        touch(TouchEvent::LongPress, 0, {}, 0);
+        showCursor();
+    });
 }
 
 void SurfaceWidget::scale(double scale) {
     scale_ = scale;
-    placeFocusFrame();
+    focusFrame_->setGeometry(geometry() + focusFrameMargins);
     update();
 }
 
@@ -96,13 +93,13 @@ void SurfaceWidget::showNow() {
     }
 }
 
-/// The device pixels that the widget covers, wherever its edges come to lie between them.
+/// The device pixels that the widget covers, those that its edges divide included.
 PixelSize SurfaceWidget::pixelSize() const {
     const QSizeF exact = QSizeF(size()) * pixelRatio(*this);
     return {static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))};
 }
 
-/// Returns the part of the canvas that is another.
+/// Returns the part of the canvas that has changed.
 PixelRect SurfaceWidget::bringUpToDate() {
     outOfDate_ = false;
     if (box() == nullptr) {
@@ -114,14 +111,14 @@ PixelRect SurfaceWidget::bringUpToDate() {
     return shown_.bringUpToDate(*canvas_, box()->displayList(), pixelScale());
 }
 
-// A pixel more all round: at a fractional ratio the toolkit may round the clip inwards.
+// One pixel larger on each side: at a fractional ratio the toolkit may round the clip inwards.
 QRect SurfaceWidget::logicalRect(const PixelRect& pixels) const {
     const double ratio = pixelRatio(*this);
     const QRectF logical(pixels.left / ratio, pixels.top / ratio, pixels.width() / ratio, pixels.height() / ratio);
     return pixels.empty() ? QRect() : logical.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
-// The toolkit does not say when a window comes to a screen of another ratio: the image shows it.
+// Before Qt 6.6 no event reports a changed pixel ratio, so each painting compares it.
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
     if (shown_.needsRepaint(pixelSize(), pixelScale())) {
         bringUpToDate();
@@ -147,7 +144,6 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     }
 }
 
-// Only where it was and where it comes to is painted again.
 void SurfaceWidget::showCursor() {
     const std::optional<KeyboardCursor> before = std::exchange(cursor_, hasFocus() ? pointer_.cursor() : std::nullopt);
     if (cursor_ != before) {
@@ -170,7 +166,7 @@ Point SurfaceWidget::twips(QPointF inWidget) const {
     return {pixelScale().twips(pixel.x()), pixelScale().twips(pixel.y())};
 }
 
-// At the place in the window, which the toolkit leaves exact; the one in the widget it rounds to logical pixels.
+// The toolkit keeps the place in the window exact, but rounds the place in the widget to logical pixels.
 void SurfaceWidget::mouse(const QMouseEvent& event) {
     SurfaceView::mouse(sumOf(event.button()), sumOf(event.buttons()), shiftKeys(event.modifiers()),
                        twips(event.scenePosition() - mapTo(window(), QPoint())));
@@ -180,58 +176,42 @@ void SurfaceWidget::mouse(const QMouseEvent& event) {
     showCursor();
 }
 
-// A touch that is accepted arrives as no mouse event.
+// The toolkit synthesizes no mouse events from a touch that is accepted.
 bool SurfaceWidget::event(QEvent* event) {
-    switch (event->type()) {
-    case QEvent::TouchBegin: // the toolkit may not have told of the last lift
-    case QEvent::TouchCancel:
-        SurfaceView::touch(TouchEvent::Cancel, 0, {}, 0);
-        break;
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-        break;
-    default:
+    static const std::map<QEventPoint::State, TouchEvent> events{{QEventPoint::Pressed, TouchEvent::Begin},
+                                                                 {QEventPoint::Updated, TouchEvent::Move},
+                                                                 {QEventPoint::Released, TouchEvent::End}};
+    const auto* touches = dynamic_cast<const QTouchEvent*>(event);
+    if (touches == nullptr) {
         return QWidget::event(event);
     }
     event->accept();
-    touch(static_cast<QTouchEvent&>(*event));
+    if (event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchCancel) {
+        touch(TouchEvent::Cancel, 0, {}, 0); // before a touch that begins: the last one's end may have been lost
+    }
+    const float startDrag = twips({static_cast<double>(QGuiApplication::styleHints()->startDragDistance()), 0}).x;
+    for (const QEventPoint& point : touches->points()) {
+        if (const auto found = events.find(point.state()); found != events.end()) {
+            touch(found->second, point.id(), twips(point.position()), startDrag);
+        }
+    }
     if (!gesture_.waits()) {
         longPress_.stop();
     } else if (!longPress_.isActive()) {
-        longPress_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
+        longPress_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
     }
     showCursor();
     return true;
 }
 
-void SurfaceWidget::touch(const QTouchEvent& event) {
-    static const std::map<QEventPoint::State, TouchEvent> events{{QEventPoint::Pressed, TouchEvent::Begin},
-                                                                 {QEventPoint::Updated, TouchEvent::Move},
-                                                                 {QEventPoint::Released, TouchEvent::End}};
-    const float startDrag = twips({static_cast<double>(QGuiApplication::styleHints()->startDragDistance()), 0}).x;
-    for (const QEventPoint& point : event.points()) {
-        if (const auto found = events.find(point.state()); found != events.end()) {
-            SurfaceView::touch(found->second, point.id(), twips(point.position()), startDrag);
-        }
-    }
-}
-
-void SurfaceWidget::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == longPress_.timerId()) {
-        longPress_.stop();
-        SurfaceView::touch(TouchEvent::LongPress, 0, {}, 0);
-        showCursor();
-    }
-}
-
-// The toolkit forgets where a button went down when another window comes to block this one.
+// The toolkit forgets where a button went down when a modal window blocks this one.
 void SurfaceWidget::inputUnblocked() {
     SurfaceView::inputUnblocked();
     forgotten_ = capture_.holds();
 }
 
-// While a button is held the window listens too: for moves outside the widget that show a lost release, and for what
-// the toolkit sends nowhere since it has forgotten the button.
+// While a button is held, the window's mouse events are filtered: a move without a button reveals a lost release, and
+// the toolkit delivers nothing to the widget once it has forgotten the button.
 bool SurfaceWidget::eventFilter(QObject* window, QEvent* event) {
     if (!capture_.holds()) {
         window->removeEventFilter(this);
@@ -254,21 +234,15 @@ bool SurfaceWidget::eventFilter(QObject* window, QEvent* event) {
 
 void SurfaceWidget::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        shown_.invalidate(); // what has the window's colour is painted again
+        shown_.invalidate(); // for what is painted in the window's colour
         update();
     }
 }
 
 void SurfaceWidget::focusInEvent(QFocusEvent* event) {
-    const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    placeFocusFrame();
-    focusFrame_->setVisible(byKeyboard);
+    focusFrame_->setVisible(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
     focusFrame_->stackUnder(this);
     showCursor();
-}
-
-void SurfaceWidget::placeFocusFrame() {
-    focusFrame_->setGeometry(geometry().adjusted(-focusFrameWidth, -focusFrameWidth, focusFrameWidth, focusFrameWidth));
 }
 
 void SurfaceWidget::focusOutEvent(QFocusEvent* /*event*/) {

@@ -3,20 +3,18 @@
 #include "platform/qt/QtCanvas.h"
 #include "platform/window/SurfaceView.h"
 
-#include <QBasicTimer>
+#include <QTimer>
 #include <QWidget>
 
 #include <optional>
 
-class QTouchEvent;
-
 namespace tumble {
 
-/// Device pixels for each logical pixel; at least 1, whatever the toolkit says.
+/// Device pixels for each logical pixel; at least 1, even where the toolkit reports less.
 double pixelRatio(const QWidget& widget);
 
-/// Shows a picture box's painting, in the exact pixels of the screen, and reports to it what mouse, keys and fingers
-/// do.
+/// Shows what is painted on a picture box, in the exact pixels of the screen, and passes mouse, key and touch events to
+/// the box.
 class SurfaceWidget : public QWidget, public SurfaceView {
 public:
     SurfaceWidget(PictureBox& box, PictureCache& pictures, QWidget* parent);
@@ -29,13 +27,12 @@ public:
     void showNow() override;
     void inputUnblocked() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool eventFilter(QObject* window, QEvent* event) override;
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override { mouse(*event); }
     void mouseDoubleClickEvent(QMouseEvent* event) override { mouse(*event); }
     void mouseMoveEvent(QMouseEvent* event) override { mouse(*event); }
@@ -49,18 +46,16 @@ private:
     PixelSize pixelSize() const;
     PixelRect bringUpToDate();
     QRect logicalRect(const PixelRect& pixels) const;
-    void placeFocusFrame();
     Point twips(QPointF inWidget) const;
     void mouse(const QMouseEvent& event);
-    void touch(const QTouchEvent& event);
     void showCursor();
 
-    QBasicTimer longPress_;
+    QTimer longPress_;
     std::optional<KeyboardCursor> cursor_; // as it shows
-    std::optional<QtCanvas> canvas_;       // in device pixels, once it has been painted
+    std::optional<QtCanvas> canvas_;       // in device pixels; none before the first painting
     double scale_ = 1;
     bool outOfDate_ = false;
-    bool forgotten_ = false; // the toolkit has forgotten that a button went down here and is held
+    bool forgotten_ = false; // the toolkit has forgotten a button that went down here and is still held
     QWidget* focusFrame_;
 };
 

@@ -25,14 +25,14 @@ double luminance(QRgb colour) {
     return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
 }
 
-/// How clearly the caption stands out from what it is written on.
-double contrast(const QImage& caption) {
+/// The contrast between the darkest and the lightest pixel.
+double contrast(const QImage& image) {
     double darkest = 1;
     double lightest = 0;
-    for (int y = 0; y < caption.height(); ++y) {
-        for (int x = 0; x < caption.width(); ++x) {
-            darkest = std::min(darkest, luminance(caption.pixel(x, y)));
-            lightest = std::max(lightest, luminance(caption.pixel(x, y)));
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            darkest = std::min(darkest, luminance(image.pixel(x, y)));
+            lightest = std::max(lightest, luminance(image.pixel(x, y)));
         }
     }
     return (lightest + 0.05) / (darkest + 0.05);
@@ -43,26 +43,26 @@ void expectCaptionsFit(const QWidget* window) {
     const double scale = scaleOf(window);
     int captions = 0;
     for (QWidget* widget : window->findChildren<QWidget*>()) {
-        QRect room = widget->rect();
+        QRect space = widget->rect();
         int flags = Qt::TextShowMnemonic | (qobject_cast<QLabel*>(widget) != nullptr ? Qt::TextWordWrap : 0);
         QString text = widget->property("text").toString();
         if (const auto* option = dynamic_cast<const WrappingRadioButton*>(widget)) {
-            room = option->captionArea();
+            space = option->captionArea();
             flags |= Qt::TextWordWrap;
         } else if (const auto* frame = dynamic_cast<const CaptionedFrame*>(widget)) {
-            room = frame->captionArea();
+            space = frame->captionArea();
             text = frame->title();
         }
         if (text.isEmpty()) {
             continue;
         }
         ++captions;
-        const QRect needed = QFontMetrics(widget->font()).boundingRect(QRect({0, 0}, room.size()), flags, text);
+        const QRect needed = QFontMetrics(widget->font()).boundingRect(QRect({0, 0}, space.size()), flags, text);
         const std::string where = widget->objectName().toStdString() + " in " + widget->font().family().toStdString();
-        EXPECT_LE(needed.width(), room.width()) << where << " at " << scale;
-        EXPECT_LE(needed.height(), room.height()) << where << " at " << scale;
-        if (scale < 1.5) { // colours do not depend on it, but the time this takes does
-            EXPECT_GE(contrast(widget->grab(room).toImage()), 4.5) << where;
+        EXPECT_LE(needed.width(), space.width()) << where << " at " << scale;
+        EXPECT_LE(needed.height(), space.height()) << where << " at " << scale;
+        if (scale < 1.5) { // larger captions have the same colours but take longer
+            EXPECT_GE(contrast(widget->grab(space).toImage()), 4.5) << where;
         }
     }
     EXPECT_GE(captions, 4);
@@ -104,7 +104,7 @@ TEST_F(Windows, NoCaptionIsCutOffInAnyFontAtAnyScaleInAnyPalette) {
     QApplication::setPalette(light);
 }
 
-/// As the toolkit's own translations into Arabic and Hebrew have it.
+/// Mirrors layouts, as the toolkit's translations into Arabic and Hebrew do.
 class RightToLeft : public QTranslator {
 public:
     QString translate(const char* /*context*/, const char* text, const char* /*hint*/, int /*n*/) const override {

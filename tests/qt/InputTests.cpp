@@ -19,7 +19,7 @@ namespace tumble {
 
 namespace {
 
-/// The table, with a list of the buttons that its box hears of: "down 1 up 1 ".
+/// The table, with a list of the button events that its picture box receives: "down 1 up 1 ".
 class Inputs : public Windows {
 protected:
     void SetUp() override {
@@ -32,20 +32,20 @@ protected:
 
     void note(PictureBox::MouseEvent& event, const char* what) {
         event = [this, what, act = event](auto Button, auto Shift, float X, float Y) {
-            heard += what + std::to_string(Button) + " ";
+            received += what + std::to_string(Button) + " ";
             act(Button, Shift, X, Y);
         };
     }
 
-    std::string heardSince() { return std::exchange(heard, ""); }
+    std::string receivedSince() { return std::exchange(received, ""); }
 
     QWidget* table = nullptr;
     QWidget* surface = nullptr;
     QPoint origin; // of the surface in the window
-    std::string heard;
+    std::string received;
 };
 
-/// The least block that holds all in which two pictures of one size differ.
+/// The bounding box of the pixels in which two pictures of one size differ.
 QRect difference(const QImage& one, const QImage& other) {
     QRect block;
     for (int y = 0; y < one.height(); ++y) {
@@ -68,7 +68,7 @@ TEST_F(Inputs, KeysMoveAPointerWhoseRingShowsWithTheFocus) {
     const QImage bare = surface->grab().toImage().convertToFormat(onScreen().format());
     EXPECT_TRUE(comesToShow(bare));
     const std::vector<std::tuple<Qt::Key, std::string, std::string>> steps{
-        {Qt::Key_Right, "", "Ace of Spades"}, // which only shows it
+        {Qt::Key_Right, "", "Ace of Spades"}, // only shows the pointer
         {Qt::Key_Left, "", "Ace of Hearts"},
         {Qt::Key_Up, "", "Five of Hearts"},
         {Qt::Key_Down, "", "Ace of Hearts"},
@@ -84,9 +84,9 @@ TEST_F(Inputs, KeysMoveAPointerWhoseRingShowsWithTheFocus) {
         {Qt::Key_F, "down 2 up 2 ", "Eight of Hearts"},
         {Qt::Key_Home, "", "Pile (empty)"},
         {Qt::Key_Right, "", "Two of Diamonds"}};
-    for (const auto& [key, told, name] : steps) {
+    for (const auto& [key, buttons, name] : steps) {
         QTest::keyClick(surface, key, key == Qt::Key_F10 ? Qt::ShiftModifier : Qt::NoModifier);
-        EXPECT_EQ(heardSince(), told);
+        EXPECT_EQ(receivedSince(), buttons);
         EXPECT_EQ(mainMod.table().lblCurrentCard.Caption(), name);
     }
     const int side = qRound(26 * surface->devicePixelRatioF());
@@ -120,9 +120,9 @@ TEST_F(Inputs, WhatSpaceHoldsOutlastsABoxAndATabAway) {
     QTest::keyClick(surface, Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
     QTest::keyClick(surface, Qt::Key_Home);
-    EXPECT_EQ(heardSince(), "down 1 ");
+    EXPECT_EQ(receivedSince(), "down 1 ");
     QTest::keyClick(surface, Qt::Key_Space);
-    EXPECT_EQ(heardSince(), "up 1 ");
+    EXPECT_EQ(receivedSince(), "up 1 ");
     EXPECT_EQ(mainMod.table().lblCurrentCard.Caption(), "Pile (Two of Diamonds)");
 }
 
@@ -138,15 +138,15 @@ TEST_F(Inputs, AFingerDragsCardsAndTurnsThem) {
         QCoreApplication::processEvents();
         return surface->grab().toImage();
     };
-    /// How wide a part of the table a long press changes.
+    // The width of the part of the table that a long press changes.
     const auto turned = [&](QPoint at) {
         const QImage before = picture();
         hints.setMousePressAndHoldInterval(0);
         touch(at);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !heard.empty(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !received.empty(); }));
         move(at + QPoint(90, 90));
         lift(at + QPoint(90, 90));
-        EXPECT_EQ(heardSince(), "down 2 up 2 ");
+        EXPECT_EQ(receivedSince(), "down 2 up 2 ");
         hints.setMousePressAndHoldInterval(std::numeric_limits<int>::max());
         return difference(picture(), before).width();
     };
@@ -155,26 +155,26 @@ TEST_F(Inputs, AFingerDragsCardsAndTurnsThem) {
     EXPECT_NEAR(turned({125, 76}), 9 * surface->devicePixelRatioF(), 1) << "what the spread shows of one card";
     touch({90, 76});
     move({93, 79});
-    EXPECT_EQ(heardSince(), "");
+    EXPECT_EQ(receivedSince(), "");
     move({60, 50});
-    EXPECT_EQ(heardSince(), "down 1 ");
+    EXPECT_EQ(receivedSince(), "down 1 ");
     move(corner);
     lift(corner);
-    EXPECT_EQ(heardSince(), "up 1 ");
+    EXPECT_EQ(receivedSince(), "up 1 ");
     EXPECT_EQ(mainMod.pileTopLeft->numCards(), 1);
     EXPECT_EQ(turned(corner), 0) << "a pile";
     touch({115, 76});
     move(corner);
     inModal([&] { lift(corner); }, Qt::Key_Return,
             [](const QWidget* box) { EXPECT_EQ(box->windowTitle(), "Invalid Move!"); });
-    EXPECT_EQ(heardSince(), "down 1 up 1 ");
+    EXPECT_EQ(receivedSince(), "down 1 up 1 ");
     touch({300, 350});
     lift({300, 350});
-    EXPECT_EQ(heardSince(), "down 1 up 1 ");
+    EXPECT_EQ(receivedSince(), "down 1 up 1 ");
 }
 
 TEST_F(Inputs, APenIsAMouse) {
-    QWindowSystemInterfacePrivate::TabletEvent::setPlatformSynthesizesMouse(false); // but the toolkit does
+    QWindowSystemInterfacePrivate::TabletEvent::setPlatformSynthesizesMouse(false); // so the toolkit does
     static const QPointingDevice pen("pen", 1, QInputDevice::DeviceType::Stylus, QPointingDevice::PointerType::Pen,
                                      QInputDevice::Capability::Position, 1, 3);
     const auto act = [&](QPoint at, Qt::MouseButtons held) {
@@ -185,11 +185,11 @@ TEST_F(Inputs, APenIsAMouse) {
     act({90, 76}, Qt::LeftButton);
     act({60, 50}, Qt::LeftButton);
     act({12, 16}, Qt::NoButton);
-    EXPECT_EQ(heardSince(), "down 1 up 1 ");
+    EXPECT_EQ(receivedSince(), "down 1 up 1 ");
     EXPECT_EQ(mainMod.pileTopLeft->numCards(), 1);
     act({120, 76}, Qt::RightButton); // of its barrel
     act({120, 76}, Qt::NoButton);
-    EXPECT_EQ(heardSince(), "down 2 up 2 ");
+    EXPECT_EQ(receivedSince(), "down 2 up 2 ");
 }
 
 TEST(HeldKeysTest, AHeldKeyActsOnce) {

@@ -28,38 +28,37 @@ QImage picture(QWidget* surface) {
     return surface->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-/// Every pixel of a card's border lies where its place says, and what lies beyond it on the right and below is not
-/// black.
+int blackPixels(const QImage& shown, const PixelRect& block) {
+    int count = 0;
+    for (int y = block.top; y <= block.bottom; ++y) {
+        for (int x = block.left; x <= block.right; ++x) {
+            count += shown.pixel(x, y) == black ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+/// The border of a card covers exactly the pixels of its place: none is missing, and beyond it on the right and below
+/// none is black.
 void expectBorderOf(const Card& crd, const QImage& shown, PixelScale scale) {
     const PixelRect box = scale.pixels({.left = static_cast<float>(crd.x1()),
                                         .top = static_cast<float>(crd.y1()),
                                         .right = static_cast<float>(crd.x2()),
                                         .bottom = static_cast<float>(crd.y2())});
-    int misplaced = 0;
     for (const PixelRect& side : boxSides(box, scale.pen())) {
-        for (int y = side.top; y <= side.bottom; ++y) {
-            for (int x = side.left; x <= side.right; ++x) {
-                misplaced += shown.pixel(x, y) != black ? 1 : 0;
-            }
-        }
+        EXPECT_EQ(blackPixels(shown, side), side.width() * side.height()) << "at " << scale.factor();
     }
-    for (int x = box.left; x <= box.right; ++x) {
-        misplaced += shown.pixel(x, box.bottom + 1) == black ? 1 : 0;
-    }
-    for (int y = box.top; y <= box.bottom; ++y) {
-        misplaced += shown.pixel(box.right + 1, y) == black ? 1 : 0;
-    }
-    EXPECT_EQ(misplaced, 0) << "at " << scale.factor();
+    EXPECT_EQ(blackPixels(shown, {box.left, box.bottom + 1, box.right, box.bottom + 1}), 0) << "at " << scale.factor();
+    EXPECT_EQ(blackPixels(shown, {box.right + 1, box.top, box.right + 1, box.bottom}), 0) << "at " << scale.factor();
 }
 
 TEST_F(Windows, TheDialogIsPlayedByKeys) {
     QWidget* dialog = openDialog();
-    const auto focused = [] { return QApplication::focusWidget()->objectName(); };
     const std::vector<QString> order{"cmdPlay",         "cmdExit",       "optCardNormal",   "sldBackDesign",
                                      "optNaturalOrder", "optFaceUp",     "optLayoutSpread", "optDeckStandard",
                                      "pctCardSize",     "pctBackDesign", "cmdPlay"};
     for (const QString& name : order) {
-        EXPECT_EQ(focused(), name);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     QWidget* slider = control("Tumble Options", "sldBackDesign");
@@ -76,7 +75,7 @@ TEST_F(Windows, TheDialogIsPlayedByKeys) {
     preview->setFocus();
     const QImage before = picture(preview);
     QTest::keyClick(preview, Qt::Key_Home);
-    EXPECT_EQ(picture(preview), before) << "no pointer where nothing hears of it";
+    EXPECT_EQ(picture(preview), before) << "no pointer where the mouse does nothing";
     QTest::keyClick(dialog, Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([] { return window("Tumble") != nullptr; }));
 }
@@ -132,8 +131,8 @@ TEST_F(Windows, WhatShowsIsWhatWasPainted) {
     expectBorderOf(*mainMod.tableTracker->identifyCard(5000, 5000), picture(surface), scale);
 }
 
-// At scale 1 and a ratio of 1 a pixel is 15 twips; elsewhere the mouse is reported in whole twips too, so that no step
-// is lost and the card never slips under the capture.
+// The mouse is reported in whole twips at every scale, so that no step is lost and the card never slips under the
+// pointer.
 TEST_F(Windows, ASlowDragKeepsTheCardUnderTheHandAtEveryScale) {
     openDialog();
     mainMod.options().optDeck24Card.Select();
@@ -232,10 +231,10 @@ TEST(QtCanvasTest, DecodesAndScalesAPicture) {
     EXPECT_EQ(canvas.image().pixelColor(41, 64), QColor(Qt::red));
 }
 
-/// What the toolkit complains of during a test fails it.
+/// A warning from the toolkit during a test fails the test.
 void onMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-    const bool ofNoDisplay = message.startsWith("This plugin does not support");
-    if (type != QtDebugMsg && type != QtInfoMsg && !ofNoDisplay) {
+    const bool isOffscreenLimit = message.startsWith("This plugin does not support");
+    if (type != QtDebugMsg && type != QtInfoMsg && !isOffscreenLimit) {
         ADD_FAILURE() << message.toStdString();
     }
 }

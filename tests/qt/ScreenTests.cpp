@@ -28,7 +28,7 @@ struct TestScreen {
     double scale; // at which the table opens there
 };
 
-// Side by side. The first, where the other tests play, grows with QT_SCALE_FACTOR.
+// Side by side. QT_SCALE_FACTOR enlarges the first, which the other tests use.
 constexpr std::array testScreens{
     TestScreen{800, 600, 1, 1},           TestScreen{1280, 800, 1, 1.375}, TestScreen{1920, 1080, 2, 1.875},
     TestScreen{640, 360, 3, 356 / 442.0}, TestScreen{400, 300, 1, 0.75},
@@ -57,7 +57,7 @@ QByteArray screensFile() {
 
 namespace {
 
-/// The window lies with its frame inside the screen, in the middle of a place, and bears the game's icon.
+/// The window and its frame lie inside the screen, in the middle of a place; the window has an icon.
 void expectInMiddle(const QWidget* window, const QRect& place) {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
     EXPECT_LE((window->frameGeometry().center() - place.center()).manhattanLength(), 2);
@@ -84,13 +84,6 @@ protected:
 
     static void refuse() {
         MsgBox("You must play either a Queen of Diamonds or a King of Diamonds or a Joker", "Invalid Move!");
-    }
-
-    static QWidget* play(QWidget* dialog) {
-        QTest::keyClick(dialog, Qt::Key_Return);
-        QWidget* table = window("Tumble");
-        EXPECT_TRUE(QTest::qWaitForWindowActive(table));
-        return table;
     }
 };
 
@@ -186,7 +179,7 @@ TEST_F(Windows, TheTableShowsEmptyUnderAnHourglassBeforeTheDeal) {
         EXPECT_EQ(surface.cursor().shape(), Qt::WaitCursor);
         QMouseEvent press(QEvent::MouseButtonPress, {9, 9}, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
         QApplication::sendEvent(&surface, &press);
-        QTest::keyClick(&surface, Qt::Key_Return); // which at another time leaves the game
+        QTest::keyClick(&surface, Qt::Key_Return); // would leave the game at another time
     });
     const QWidget* table = openTable();
     EXPECT_TRUE(shown);
@@ -225,7 +218,7 @@ TEST_F(Windows, AMessageBelongsToTheWindowShownLastOfThoseThatShow) {
     expectMessageOver("second");
 }
 
-TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
+TEST_F(Windows, AFormUnderABoxReceivesNothing) {
     QWidget* table = openTable();
     inModal([] { frmTumble::cmdHelp_Click(); }, Qt::Key_Return,
             [&](const QWidget* /*box*/) {
@@ -234,24 +227,24 @@ TEST_F(Windows, AFormUnderABoxHearsOfNothing) {
             });
     EXPECT_TRUE(table->isVisible());
     QTimer::singleShot(0, qApp, [&] { mainMod.table().cmdExit.Click(); });
-    desktop.run(); // which the exit ends, and no loop of a later test
+    desktop.run(); // so that the exit ends this loop, not one of a later test
     EXPECT_EQ(window("Tumble"), nullptr);
 }
 
 TEST(WorkAreaTest, TheTableOpensAsLargeAsLooksWellAndLiesInsideTheScreen) {
-    using Case = std::tuple<PixelSize, double, double>;
+    using Case = std::tuple<QSize, double, double>;
     for (const auto& [screen, ratio, scale] :
          {Case{{800, 600}, 1, 1}, Case{{800, 480}, 1, 1}, Case{{1366, 768}, 1, 1.375}, Case{{3840, 2160}, 1, 3.875},
           Case{{1920, 1080}, 2, 1.875}, Case{{683, 384}, 2, 348 / 442.0}, Case{{640, 360}, 3, 324 / 442.0},
           Case{{600, 1024}, 1, 592 / 635.0}, Case{{400, 300}, 1, 0.75}}) {
-        const WorkArea area({-100, 0, screen.width - 101, screen.height - 1}, screen, ratio, {});
-        EXPECT_NEAR(area.openingScale(FormSize(9525, 6630)), scale, 1e-9) << screen.width;
-        EXPECT_NEAR(area.leastScale(FormSize(9525, 6630)), std::min(scale, 1.0), 1e-9) << screen.width;
+        const WorkArea area({{-100, 0}, screen}, screen, ratio, {});
+        EXPECT_NEAR(area.openingScale(FormSize(9525, 6630)), scale, 1e-9) << screen.width();
+        EXPECT_NEAR(area.leastScale(FormSize(9525, 6630)), std::min(scale, 1.0), 1e-9) << screen.width();
     }
-    const WorkArea area({0, 0, 799, 559}, {800, 600}, 1, {});
-    EXPECT_EQ(area.place({50, 50}, {500, 300, 599, 599}), (PixelRect{525, 425, 574, 474}));
-    EXPECT_EQ(area.place({300, 300}, {700, 400, 799, 599}), (PixelRect{496, 256, 795, 555})) << "moved in";
-    EXPECT_EQ(area.place({900, 700}, {700, 400, 799, 599}), (PixelRect{4, 32, 903, 731})) << "too large";
+    const WorkArea area({0, 0, 800, 560}, {800, 600}, 1, {});
+    EXPECT_EQ(area.place({50, 50}, {500, 300, 100, 300}), QRect(525, 425, 50, 50));
+    EXPECT_EQ(area.place({300, 300}, {700, 400, 100, 200}), QRect(496, 256, 300, 300)) << "moved in";
+    EXPECT_EQ(area.place({900, 700}, {700, 400, 100, 200}), QRect(4, 32, 900, 700)) << "too large";
 }
 
 } // namespace

@@ -11,7 +11,6 @@
 
 #include <memory>
 #include <random>
-#include <vector>
 
 namespace tumble {
 
@@ -35,15 +34,15 @@ protected:
         const float X = place(20000);
         const float Y = place(14000);
         const auto size = static_cast<CardSize>(below(3));
-        if (log().size() > 400) {
-            log().clear();
+        if (desktop.log.size() > 400) {
+            desktop.log.clear();
             tracker = {};
             tracker.picture(&box);
             box.Cls();
         } else if (kind < 15) {
             const auto rank = static_cast<CardRank>(rkTwo + below(13));
             tracker.addCard(rank, suHeart, X, Y, size, fdFaceUp, bsFirst);
-            if (kind < 5) { // another right on it, on its edge, or a little aside
+            if (kind < 5) { // another at the same place, on its edge or a little aside
                 const float aside = 150 * static_cast<float>(below(3));
                 tracker.addJoker(X + aside, Y + 1000 * static_cast<float>(below(2)), size, fdFaceDown, bsLast);
             }
@@ -78,24 +77,20 @@ protected:
         QCoreApplication::sendEvent(window, &now);
         const double ratio = window->devicePixelRatioF();
         const QImage all = *dynamic_cast<QImage*>(window->backingStore()->paintDevice());
-        const QPointF corner = QPointF(surface->mapTo(window, QPoint())) * ratio;
-        const QPointF end = QPointF(surface->mapTo(window, QPoint(surface->width(), surface->height()))) * ratio;
-        return all
-            .copy(
-                QRect(QPoint(qRound(corner.x()), qRound(corner.y())), QPoint(qRound(end.x()) - 1, qRound(end.y()) - 1)))
-            .convertToFormat(QImage::Format_RGB32);
+        const QRect place(surface->mapTo(window, QPoint()), surface->size());
+        const QPoint corner = (QPointF(place.topLeft()) * ratio).toPoint();
+        const QPoint end = (QPointF(place.bottomRight() + QPoint(1, 1)) * ratio).toPoint();
+        return all.copy({corner, end - QPoint(1, 1)}).convertToFormat(QImage::Format_RGB32);
     }
 
     QImage painted(QSize size) {
         QtCanvas canvas({size.width(), size.height()}, tableGreen);
         const PixelScale scale(scaleOf(window) * window->devicePixelRatioF());
-        for (const DisplayItem& item : log()) {
+        for (const DisplayItem& item : desktop.log) {
             paint(canvas, item, scale, pictures);
         }
         return canvas.image();
     }
-
-    std::vector<DisplayItem>& log() { return desktop.log; }
 
     PictureBox& box = mainMod.table().picTable;
     CardTracker tracker;

@@ -28,14 +28,14 @@ public:
     }
     std::vector<DisplayItem> log;
 };
-/// The file that tells the offscreen platform of the tests' screens.
+/// The offscreen platform's description of the tests' screens.
 QByteArray screensFile();
 
 inline double scaleOf(const QWidget* window) {
     return dynamic_cast<const FormWindow*>(window)->scale();
 }
 
-/// Does what opens a modal window, looks at it, and closes it by a key.
+/// Opens a modal window by `open`, inspects it by `look` and closes it by a key.
 inline void inModal(const std::function<void()>& open, Qt::Key key, const std::function<void(QWidget*)>& look) {
     QPointer<QWidget> before = QApplication::activeWindow();
     QTimer::singleShot(0, qApp, [&] {
@@ -78,14 +78,17 @@ protected:
         return dialog;
     }
 
-    QWidget* openTable() {
-        QTest::keyClick(openDialog(), Qt::Key_Return);
+    /// Starts the game from the dialog.
+    static QWidget* play(QWidget* dialog) {
+        QTest::keyClick(dialog, Qt::Key_Return);
         QWidget* table = window("Tumble");
         EXPECT_TRUE(QTest::qWaitForWindowActive(table));
         return table;
     }
 
-    /// Below scale 1 as on a screen that is too small for it.
+    QWidget* openTable() { return play(openDialog()); }
+
+    /// A scale below 1 stands for a screen that is too small.
     static void resizeTo(double scale, QWidget* window) {
         const QVariant known = window->property("unscaled");
         const QSize unscaled = known.isValid() ? known.toSize() : window->minimumSize();
@@ -95,7 +98,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    /// Does something with the table's mouse at a place in twips, which may lie beyond its edges.
+    /// A mouse event at a place in twips of the table, which may lie beyond its edges.
     static void mouse(QTest::MouseAction action, float X, float Y, Qt::MouseButton button = Qt::NoButton) {
         QWidget* table = window("Tumble");
         const QPoint origin = control("Tumble", "picTable")->mapTo(table, QPoint(0, 0));
