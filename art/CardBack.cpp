@@ -1,7 +1,7 @@
 #include "art/CardBack.h"
 
 #include "art/Bitmap.h"
-#include "art/CardCoordinates.h"
+#include "art/Drawing.h"
 #include "art/PathData.h"
 #include "art/Symmetry.h"
 
@@ -10,7 +10,6 @@
 #include <cmath>
 #include <initializer_list>
 #include <memory>
-#include <string_view>
 
 namespace tumble::art {
 
@@ -23,13 +22,8 @@ constexpr int tile = 15;
 constexpr double knotWidth = 4;
 constexpr double margin = 3;
 
-struct Colouring {
-    Colour ground;
-    Colour flower;
-    Colour knot;
-};
-
-constexpr std::array<Colouring, 4> colourings = {{
+// The ground and the colours of the flower and the knot.
+constexpr std::array<std::array<Colour, 3>, 4> colourings = {{
     {rgb(192, 192, 255), rgb(0, 0, 255), rgb(255, 255, 0)},
     {rgb(255, 255, 128), rgb(128, 255, 255), rgb(0, 255, 0)},
     {rgb(255, 128, 64), rgb(255, 0, 128), rgb(128, 64, 0)},
@@ -119,8 +113,8 @@ void drawBack(int colouring, Canvas& canvas) {
 }
 
 std::vector<Colour> backPalette(int colouring) {
-    const auto& [ground, flowerColour, knotColour] = colourings.at(static_cast<std::size_t>(colouring));
-    return {ground, flowerColour, knotColour};
+    const auto& colours = colourings.at(static_cast<std::size_t>(colouring));
+    return {colours.begin(), colours.end()};
 }
 
 } // namespace tumble::art

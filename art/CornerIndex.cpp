@@ -1,6 +1,5 @@
 #include "art/CornerIndex.h"
 
-#include "art/CardCoordinates.h"
 #include "art/Glyphs.h"
 #include "art/PathData.h"
 

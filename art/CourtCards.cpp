@@ -1,6 +1,5 @@
 #include "art/CourtCards.h"
 
-#include "art/CardCoordinates.h"
 #include "art/CourtAttributes.h"
 #include "art/CourtBodies.h"
 #include "art/CourtHeadgear.h"
@@ -85,12 +84,10 @@ constexpr double sashHalfWidth = 28;
 constexpr double sashFall = 6;
 constexpr PathData sash = "M-28 -8.4 L28 3.6 L28 8.4 L-28 -3.6 Z";
 
-void paintCourtFigure(Drawing drawing, const Body& body, const Costume& costume, const Regalia& worn) {
+void paintCourtFigure(const Drawing& drawing, const Body& body, const Costume& costume, const Regalia& worn) {
     const Materials fabrics = materials(worn.hair, costume.mantle, costume.front, costume.sleeve, costume.trim);
     paintPieces(drawing, body.robe, fabrics);
-    drawing.toPixels = drawing.toPixels.moved({handX, 0});
-    paintPieces(drawing, worn.attribute, fabrics);
-    drawing.toPixels = drawing.toPixels.moved({-handX, 0});
+    paintPieces(drawing.moved({handX, 0}), worn.attribute, fabrics);
     paintPieces(drawing, arm, fabrics);
     paintPieces(drawing, body.backHair, fabrics);
     paintPieces(drawing, face, fabrics);

@@ -1,10 +1,10 @@
 #include "art/Icon.h"
 
-#include "art/Palette.h"
 #include "art/SuitSymbols.h"
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace tumble::art {
 
@@ -12,55 +12,37 @@ namespace {
 
 constexpr double suitWidth = 14;
 
-struct Quadrant {
-    Suit suit;
-    bool right;
-    bool lower;
-};
+// The suits of the quadrants, row by row.
+constexpr std::array suits = {Suit::Hearts, Suit::Clubs, Suit::Spades, Suit::Diamonds};
 
-constexpr std::array<Quadrant, suitCount> quadrants = {{
-    {Suit::Hearts, false, false},
-    {Suit::Clubs, true, false},
-    {Suit::Spades, false, true},
-    {Suit::Diamonds, true, true},
-}};
-
-/// The pixels of a suit in an icon of that size. All suits are equally far from the edges next to them.
-PixelRect suitPixels(const Quadrant& quadrant, PixelSize icon) {
+/// The pixels of a quadrant's suit in an icon of that size. All suits are equally far from the edges next to them.
+PixelRect suitPixels(std::size_t quadrant, PixelSize icon) {
     const auto length = [](int side) { return static_cast<int>(std::lround(suitWidth * side / iconWidth)); };
     const auto first = [&](bool isSecond, int side) {
         const int margin = side / iconWidth;
         return isSecond ? side - margin - length(side) : margin;
     };
     const PixelSize size{length(icon.width), length(icon.height)};
-    return size.at({first(quadrant.right, icon.width), first(quadrant.lower, icon.height)});
+    return size.at({first(quadrant % 2 == 1, icon.width), first(quadrant / 2 == 1, icon.height)});
 }
 
 } // namespace
 
 std::vector<Shape> iconShapes() {
     std::vector<Shape> shapes;
-    shapes.reserve(quadrants.size());
-    for (const Quadrant& quadrant : quadrants) {
+    for (std::size_t quadrant = 0; quadrant < suits.size(); ++quadrant) {
         const Box box = toBox(suitPixels(quadrant, {iconWidth, iconWidth}));
-        shapes.push_back({suitSymbol(quadrant.suit, box), suitColour(quadrant.suit)});
+        shapes.push_back({suitSymbol(suits.at(quadrant), box), suitColour(suits.at(quadrant))});
     }
     return shapes;
 }
 
 void drawIcon(Canvas& canvas, int margin) {
     const PixelSize size = canvas.bounds().inset(margin, margin).size();
-    for (const Quadrant& quadrant : quadrants) {
+    for (std::size_t quadrant = 0; quadrant < suits.size(); ++quadrant) {
         const PixelRect pixels = suitPixels(quadrant, size);
-        paintSuit(canvas, quadrant.suit, pixels.size().at({pixels.left + margin, pixels.top + margin}));
+        paintSuit(canvas, suits.at(quadrant), pixels.size().at({pixels.left + margin, pixels.top + margin}));
     }
-}
-
-std::vector<Colour> iconPalette() {
-    constexpr std::size_t tableSize = 16;
-    std::vector<Colour> colours = suitPalette();
-    colours.resize(tableSize, black);
-    return colours;
 }
 
 } // namespace tumble::art

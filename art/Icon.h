@@ -22,7 +22,4 @@ std::vector<Shape> iconShapes();
 /// Draws the icon over what the canvas shows, with a margin of so many pixels.
 void drawIcon(Canvas& canvas, int margin = 0);
 
-/// 16 colours for the icon on white.
-std::vector<Colour> iconPalette();
-
 } // namespace tumble::art

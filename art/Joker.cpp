@@ -1,6 +1,5 @@
 #include "art/Joker.h"
 
-#include "art/CardCoordinates.h"
 #include "art/CourtBodies.h"
 #include "art/SuitSymbols.h"
 

@@ -36,13 +36,14 @@ std::vector<Colour> facePalette() {
     return colours;
 }
 
-std::vector<Colour> suitPalette() {
+std::vector<Colour> iconPalette() {
     constexpr int parts = 7;
     std::vector<Colour> colours = {white};
     for (int part = 1; part <= parts; ++part) {
         colours.push_back(mixture(part, 0, 0, parts - part));
         colours.push_back(mixture(0, part, 0, parts - part));
     }
+    colours.push_back(black);
     return colours;
 }
 

@@ -15,7 +15,7 @@ inline constexpr Colour white = rgb(255, 255, 255);
 /// 256 colours for a face: every mixture of the four in ninths, and finer steps from white to black and to red.
 std::vector<Colour> facePalette();
 
-/// 15 colours for suits on white: steps from white to black and to red.
-std::vector<Colour> suitPalette();
+/// 16 colours for the icon on white: steps from white to black and to red.
+std::vector<Colour> iconPalette();
 
 } // namespace tumble::art

@@ -1,9 +1,9 @@
 #include "art/Pictures.h"
 
 #include "art/CardBack.h"
-#include "art/CardCoordinates.h"
 #include "art/CornerIndex.h"
 #include "art/CourtCards.h"
+#include "art/Drawing.h"
 #include "art/Icon.h"
 #include "art/Joker.h"
 #include "art/Palette.h"

@@ -7,24 +7,17 @@ void paintPieces(const Drawing& drawing, std::span<const Piece> pieces, const Ma
     for (const Piece& piece : pieces) {
         const Fabric& fabric = materials.at(static_cast<std::size_t>(piece.material));
         const Path path = piece.path.path();
-        const Pen pen{fabric.background, lineWidth};
-        switch (piece.style) {
-        case Style::FillPair:
-            paintFabric(drawing, mirrored(path), fabric);
-            [[fallthrough]];
-        case Style::Fill:
-            paintFabric(drawing, path, fabric);
-            break;
-        case Style::FillHalf:
-            paintFabric(drawing, completed(path), fabric);
-            break;
-        case Style::StrokePair:
-            drawing.canvas.stroke(mirrored(path), drawing.toPixels, pen);
-            [[fallthrough]];
-        case Style::Stroke:
-            drawing.canvas.stroke(path, drawing.toPixels, pen);
-            break;
+        const auto paint = [&](const Path& shape) {
+            if (piece.style == Style::Stroke || piece.style == Style::StrokePair) {
+                drawing.canvas.stroke(shape, drawing.toPixels, {fabric.background, lineWidth});
+            } else {
+                paintFabric(drawing, shape, fabric);
+            }
+        };
+        if (piece.style == Style::FillPair || piece.style == Style::StrokePair) {
+            paint(mirrored(path));
         }
+        paint(piece.style == Style::FillHalf ? completed(path) : path);
     }
 }
 

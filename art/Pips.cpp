@@ -1,9 +1,7 @@
 #include "art/Pips.h"
 
-#include "art/CardCoordinates.h"
 #include "art/Pieces.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <span>

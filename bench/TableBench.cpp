@@ -82,11 +82,9 @@ template<class Desktop>
 void DragStep(benchmark::State& state) {
     Game<Desktop> game(state.range(0));
     game.press(firstCard);
-    int step = 0;
-    while (state.KeepRunning()) {
+    for (int step = 0; state.KeepRunning(); step = (step + 1) % 200) {
         game.move(onTheWay(step));
         game.show();
-        step = (step + 1) % 200;
     }
 }
 
@@ -119,11 +117,9 @@ void Deal(benchmark::State& state) {
 template<class Desktop>
 void HitTest(benchmark::State& state) {
     Game<Desktop> game(state.range(0));
-    int step = 0;
-    while (state.KeepRunning()) {
+    for (int step = 0; state.KeepRunning(); step = (step + 1) % 200) {
         const Point at = onTheWay(step);
         benchmark::DoNotOptimize(game.tracker().identifyCard(at.x, at.y));
-        step = (step + 1) % 200;
     }
 }
 

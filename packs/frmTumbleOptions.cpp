@@ -6,11 +6,14 @@ namespace tumble {
 
 namespace {
 
-void centre(Card& crd, const PictureBox& box) {
+/// Draws a preview in the middle of its box.
+void preview(Card& crd, PictureBox& box, CardSize size, FaceDirection faceDir, BackStyle backStyle) {
+    crd.setAttributes(&box, size, faceDir, vsCard, backStyle);
     const double width = static_cast<double>(crd.x2()) - crd.x1() + 1;
     const double height = static_cast<double>(crd.y2()) - crd.y1() + 1;
     crd.setPosition(static_cast<float>((box.Width() - width) / 2), static_cast<float>((box.Height() - height) / 2),
                     paNear, paNear);
+    crd.draw();
 }
 
 } // namespace
@@ -21,18 +24,13 @@ frmTumbleOptions::frmTumbleOptions(StartGame startGame)
 }
 
 void frmTumbleOptions::Form_Load() {
-    sizePreviewCard_.setAttributes(&pctCardSize, csNormal, fdFaceUp, vsCard, bsFirst);
     sizePreviewCard_.setRankAndSuit(rkAce, suSpade);
-    centre(sizePreviewCard_, pctCardSize);
-    sizePreviewCard_.draw();
+    preview(sizePreviewCard_, pctCardSize, csNormal, fdFaceUp, bsFirst);
 
     sldBackDesign.Min(bsFirst);
     sldBackDesign.Max(bsLast);
     sldBackDesign.Value(bsFirst);
-    const auto backStyle = static_cast<BackStyle>(sldBackDesign.Value());
-    backPreviewCard_.setAttributes(&pctBackDesign, csNormal, fdFaceDown, vsCard, backStyle);
-    centre(backPreviewCard_, pctBackDesign);
-    backPreviewCard_.draw();
+    preview(backPreviewCard_, pctBackDesign, csNormal, fdFaceDown, bsFirst);
 
     curFaceDir_ = fdFaceUp;
     lblDeckDescription.Caption(optDeckStandard.Tag());
@@ -59,10 +57,8 @@ void frmTumbleOptions::sldBackDesign_Change() {
 }
 
 void frmTumbleOptions::showSize(CardSize size) {
-    sizePreviewCard_.setAttributes(&pctCardSize, size, fdFaceUp, vsCard, bsFirst);
-    centre(sizePreviewCard_, pctCardSize);
     pctCardSize.Cls();
-    sizePreviewCard_.draw();
+    preview(sizePreviewCard_, pctCardSize, size, fdFaceUp, bsFirst);
 }
 
 void frmTumbleOptions::chooseDeck(const OptionButton& button, DeckType dckType) {

@@ -33,31 +33,28 @@ void CardTracker::addCard(CardRank rank, CardSuit suit, float X, float Y, CardSi
                           BackStyle backStyle) {
     const auto crd = std::make_shared<Card>();
     crd->setRankAndSuit(rank, suit);
-    addNewCard(crd, X, Y, size, faceDir, backStyle);
+    addNewCard(crd, X, Y, size, faceDir, vsCard, backStyle);
 }
 
 void CardTracker::addJoker(float X, float Y, CardSize size, FaceDirection faceDir, BackStyle backStyle) {
     const auto crd = std::make_shared<Card>();
     crd->setAsJoker();
-    addNewCard(crd, X, Y, size, faceDir, backStyle);
+    addNewCard(crd, X, Y, size, faceDir, vsCard, backStyle);
 }
 
 void CardTracker::addNewCard(const std::shared_ptr<Card>& crd, float X, float Y, CardSize size, FaceDirection faceDir,
-                             BackStyle backStyle) {
-    crd->setAttributes(picture_, size, faceDir, vsCard, backStyle);
-    crd->setPosition(X, Y, paNear, paNear);
+                             CardVisibility visibility, BackStyle backStyle, PileAlign xAlign, PileAlign yAlign) {
+    crd->setAttributes(picture_, size, faceDir, visibility, backStyle);
+    crd->setPosition(X, Y, xAlign, yAlign);
     addExistingCard(crd);
     crd->draw();
 }
 
 void CardTracker::addPileCard(float X, float Y, CardSize size, std::shared_ptr<Pile> pack, PileAlign xAlign,
                               PileAlign yAlign) {
-    auto crd = std::make_shared<Card>();
+    const auto crd = std::make_shared<Card>();
     crd->pack(std::move(pack));
-    crd->setAttributes(picture_, size, fdFaceDown, vsPile, bsFirst);
-    crd->setPosition(X, Y, xAlign, yAlign);
-    addExistingCard(crd);
-    crd->draw();
+    addNewCard(crd, X, Y, size, fdFaceDown, vsPile, bsFirst, xAlign, yAlign);
 }
 
 std::shared_ptr<Card> CardTracker::identifyCard(float X, float Y) {

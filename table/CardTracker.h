@@ -53,7 +53,8 @@ public:
 
 private:
     void addNewCard(const std::shared_ptr<Card>& crd, float X, float Y, CardSize size, FaceDirection faceDir,
-                    BackStyle backStyle);
+                    CardVisibility visibility, BackStyle backStyle, PileAlign xAlign = paNear,
+                    PileAlign yAlign = paNear);
     void takeCurCardOut();
     void layCurCardOnTop();
     void letGo();

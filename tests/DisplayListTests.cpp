@@ -15,19 +15,8 @@ constexpr Colour red = 0x0000FF;
 constexpr Colour blue = 0xFF0000;
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
-DisplayItem fill(const Rect& place, Colour colour) {
-    return {.bounds = place, .operations = {FillOperation{place, colour}}};
-}
 DisplayItem erasure(const Rect& place) {
     return fill(place, tableGreen);
-}
-
-DisplayList painted(const std::vector<DisplayItem>& items) {
-    DisplayList list(3000, 2000, tableGreen);
-    for (const DisplayItem& item : items) {
-        list.add(item);
-    }
-    return list;
 }
 
 TEST(DisplayListTest, KeepsWhatStillShows) {

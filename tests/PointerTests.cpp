@@ -1,111 +1,15 @@
-#include "platform/paint/Picture.h"
-#include "tests/Player.h"
+#include "tests/Table.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <map>
-#include <set>
 #include <sstream>
-#include <tuple>
 #include <utility>
 
 namespace tumble {
 namespace {
-
-DisplayItem block(const Rect& place, Colour colour = 0xFF0000) {
-    return {.bounds = place, .operations = {FillOperation{place, colour}}};
-}
-
-TEST(StopsTest, AreTheMiddlesOfTheLargestRectanglesThatItemsLeaveToSee) {
-    const Picture picture("card", {});
-    const DisplayItem low = block({100, 100, 500, 500});
-    const DisplayItem card{low.bounds, {PictureOperation{&picture, low.bounds}, BoxOperation{low.bounds, 0}}};
-    const DisplayItem open{{150, 150, 450, 450}, {BoxOperation{{150, 150, 450, 450}, 0}}};
-    const std::vector<std::tuple<std::vector<DisplayItem>, std::optional<KeyboardCursor>, std::vector<Point>>> cases{
-        {{}, {}, {}},
-        {{card, open}, {}, {{300, 300}}}, // an item that is not opaque hides nothing and is no stop
-        {{low, block({200, 0, 600, 600})}, {}, {{149, 300}, {400, 300}}},
-        {{low, block({200, 220, 600, 600})}, {}, {{300, 159}, {400, 410}}}, // the larger leg of an L
-        {{low, block({220, 0, 300, 600}), block({0, 200, 600, 300})}, {}, {{400, 400}, {260, 450}, {300, 250}}},
-        {{low, block({99.5F, 100, 500.5F, 500})}, {}, {{300, 300}}}, // the lower item is hidden
-        {{low, block({101.5F, 0, 600, 600})}, {}, {{100, 300}, {351, 300}}},
-        {{low, block({100.5F, 0, 600, 600})}, {}, {{350, 300}}},          // less than a whole twip shows
-        {{low, block({200, 0, 600, 600}, tableGreen)}, {}, {{149, 300}}}, // an erasure hides and is no stop
-        {{low, block({200, 200, 400, 400}), block({50, 50, 150, 550})}, {}, {{450, 300}, {300, 300}, {100, 300}}},
-        {{block({0, 0, 400, 400}), block({100, 120, 300, 300})}, {}, {{200, 59}, {200, 210}}},
-        {{block({0, 0, 400, 1000}), block({0, 0, 400, 300}), block({0, 700, 400, 1000})},
-         {},
-         {{200, 500}, {200, 150}, {200, 850}}},
-        {{block({-500, -500, 40, 40}), block({2900, 1900, 3500, 2500}), block({2981, 1981, 3500, 2500})},
-         {},
-         {{20, 20}, {2940, 1940}}}, // inside the given part only
-        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{120, 300}}, {{400, 300}}},
-        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}}, {{149, 300}}},
-        {{low, block({200, 0, 600, 600})}, KeyboardCursor{{400, 300}, true}, {{300, 300}}}, // a carried item hides none
-        {{low, block({200, 0, 600, 600}, tableGreen)}, KeyboardCursor{{400, 300}, true}, {{149, 300}}}};
-    for (const auto& [items, cursor, expected] : cases) {
-        DisplayList list(3000, 2000, tableGreen);
-        for (const DisplayItem& item : items) {
-            list.add(item);
-        }
-        EXPECT_EQ(stops(list, {0, 0, 2980, 1980}, cursor), expected) << inWords(items);
-    }
-}
-
-TEST(StopsTest, BestIsTheLeastWayAlongAndAcrossWithin45Degrees) {
-    const std::vector<Point> places{{0, 0}, {100, 60}, {150, 0}, {100, 101}, {-50, 50}, {-60, 20}, {0, -900}};
-    const std::vector<std::pair<Point, std::optional<Point>>> cases{
-        {{1, 0}, Point{150, 0}}, {{0, 1}, Point{-50, 50}}, {{-1, 0}, Point{-60, 20}}, {{0, -1}, Point{0, -900}}};
-    for (const auto& [direction, best] : cases) {
-        EXPECT_EQ(stopTowards(places, {0, 0}, direction), best) << direction.x << "," << direction.y;
-    }
-    EXPECT_EQ(stopTowards(places, {150, 0}, {1, 0}), std::nullopt);
-}
-
-TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOther) {
-    for (std::size_t game = 0; game < 48; ++game) {
-        SCOPED_TRACE(game);
-        const Settings settings{
-            .deck = game / 6, .size = game / 2 % 3, .order = 0, .layout = game % 2, .back = 0, .face = 0};
-        Table table;
-        table.program.Main();
-        choose(table.program.options(), settings);
-        table.program.options().cmdPlay.Click();
-        const PictureBox& box = table.picture();
-        const std::vector<Point> all = stops(box.displayList(), box.dragBounds);
-        std::set<const Card*> on;
-        using Way = std::pair<std::size_t, std::size_t>;
-        std::vector<Way> ways;
-        for (std::size_t from = 0; from < all.size(); ++from) {
-            on.insert(table.tracker().identifyCard(all[from].x, all[from].y).get());
-            const std::vector<Point> others = stops(box.displayList(), box.dragBounds, KeyboardCursor{all[from]});
-            for (const Point arrow : {Point{-1, 0}, {0, -1}, {1, 0}, {0, 1}}) {
-                if (const auto next = stopTowards(others, all[from], arrow)) {
-                    ways.emplace_back(from, std::find(all.begin(), all.end(), *next) - all.begin());
-                }
-            }
-        }
-        const auto reached = [&](std::size_t Way::*from, std::size_t Way::*to) {
-            std::set<std::size_t> found{0};
-            for (std::size_t before = 0; before != found.size();) {
-                before = found.size();
-                for (const Way& way : ways) {
-                    if (found.contains(way.*from)) {
-                        found.insert(way.*to);
-                    }
-                }
-            }
-            return found.size();
-        };
-        const auto cards = static_cast<std::size_t>(settings.layout == 1 ? 1 : cardsOfDeck.at(settings.deck));
-        EXPECT_TRUE(all.size() == cards + 4 && on.size() == all.size() && !on.contains(nullptr)) << all.size();
-        EXPECT_EQ(reached(&Way::first, &Way::second), all.size());
-        EXPECT_EQ(reached(&Way::second, &Way::first), all.size());
-    }
-}
 
 /// A box with six blocks, which records its mouse events: "down 1 0 200,100" with button and shift keys.
 class Blocks : public Form {

@@ -80,6 +80,18 @@ std::string inFull(const DisplayItem& item) {
     return joined(item.operations, [](const Operation& operation) { return std::visit(InFull(), operation); });
 }
 
+DisplayItem fill(const Rect& place, Colour colour) {
+    return {.bounds = place, .operations = {FillOperation{place, colour}}};
+}
+
+DisplayList painted(std::span<const DisplayItem> items) {
+    DisplayList list(3000, 2000, tableGreen);
+    for (const DisplayItem& item : items) {
+        list.add(item);
+    }
+    return list;
+}
+
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit) {
     auto crd = std::make_shared<Card>();
     crd->setRankAndSuit(rank, suit);

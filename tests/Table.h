@@ -21,6 +21,11 @@ std::string inWords(std::span<const DisplayItem> items);
 /// All operations of an item: "fill 0,0 728,1133 green; line 0,0 728,1133 black".
 std::string inFull(const DisplayItem& item);
 
+/// A filled box as an item of its own.
+DisplayItem fill(const Rect& place, Colour colour);
+/// The items on a surface of 3000 by 2000 twips.
+DisplayList painted(std::span<const DisplayItem> items);
+
 using Cards = std::vector<std::shared_ptr<Card>>;
 std::shared_ptr<Card> makeCard(CardRank rank, CardSuit suit);
 std::shared_ptr<Card> makeJoker();

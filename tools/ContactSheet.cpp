@@ -1,6 +1,6 @@
 // Writes contact sheets of the cards for a person to judge: contact-sheet OUTPUT-FOLDER
 
-#include "art/CardCoordinates.h"
+#include "art/Drawing.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 

@@ -1,7 +1,8 @@
 // Writes the pictures of the cards and the icon as GIF files, and the icon in other sizes: draw-cards OUTPUT-FOLDER
 
-#include "art/CardCoordinates.h"
+#include "art/Drawing.h"
 #include "art/Icon.h"
+#include "art/Palette.h"
 #include "art/Pictures.h"
 #include "platform/qt/QtCanvas.h"
 #include "tools/Gif.h"

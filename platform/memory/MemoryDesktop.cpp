@@ -6,10 +6,6 @@
 
 namespace tumble {
 
-float ScriptedRandom::Rnd() {
-    return values_.empty() ? 0 : values_[drawn_++ % values_.size()];
-}
-
 MemoryDesktop::MemoryDesktop(Application application) : Desktop(std::move(application)) {
     desktop(this);
 }
@@ -47,10 +43,6 @@ void MemoryDesktop::Unload(Form& form) {
     }
 }
 
-void MemoryDesktop::Refresh(Form& form) {
-    note("refresh ", form);
-}
-
 void MemoryDesktop::MousePointer(Form& /*form*/, Pointer pointer) {
     journal_.push_back("pointer " + std::to_string(static_cast<int>(pointer)));
 }
@@ -65,10 +57,6 @@ TextExtent MemoryDesktop::measure(const std::string& text, const Font& /*font*/,
     const float inOneLine = static_cast<float>(text.size()) * 7 * twipsPerPixel;
     const float most = width.value_or(inOneLine);
     return {.Width = std::min(inOneLine, most), .Height = std::ceil(inOneLine / most) * 15 * twipsPerPixel};
-}
-
-std::vector<MemoryDesktop::Message> MemoryDesktop::takeMessages() {
-    return std::exchange(messages_, {});
 }
 
 bool MemoryDesktop::shows(const Form& form) const {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tumble {
@@ -20,7 +21,7 @@ public:
     std::size_t drawn() const { return drawn_; }
 
     void Randomize() override { ++seeded_; }
-    float Rnd() override;
+    float Rnd() override { return values_.empty() ? 0 : values_[drawn_++ % values_.size()]; }
 
 private:
     std::vector<float> values_;
@@ -44,7 +45,7 @@ public:
     void Show(Form& form, Modality modality) override;
     void Hide(Form& form) override;
     void Unload(Form& form) override;
-    void Refresh(Form& form) override;
+    void Refresh(Form& form) override { note("refresh ", form); }
     void MousePointer(Form& form, Pointer pointer) override;
     void End() override { ended_ = true; }
     void changed(Control& /*control*/) override {}
@@ -54,7 +55,7 @@ public:
     ScriptedRandom& random() override { return random_; }
 
     /// The message boxes since the last call, in their order.
-    std::vector<Message> takeMessages();
+    std::vector<Message> takeMessages() { return std::exchange(messages_, {}); }
     bool shows(const Form& form) const;
     bool ended() const { return ended_; }
     /// What forms were asked for, in order: "show Tumble Options", "pointer 11", "refresh Tumble", ...

@@ -1,4 +1,4 @@
-#include "art/CardCoordinates.h"
+#include "art/Drawing.h"
 
 #include <algorithm>
 #include <cmath>
