@@ -169,6 +169,19 @@ TEST(FormTest, ControlsAreAsTheyWereDesigned) {
         "32:2280,720,1575,1095 '' 8.25 bold centred; ");
 }
 
+TEST(MessageBoxTest, IsAsLargeAsItsTextWhichWrapsAtFourFifthsOfTheTable) {
+    const MemoryDesktop desktop(application());
+    using Case = std::tuple<std::size_t, Place, float>; // letters, the text's place, the width of the box
+    for (const auto& [letters, place, width] :
+         {Case{5, {240, 240, 525, 600}, 1905}, Case{72, {240, 240, 7560, 600}, 8040},
+          Case{300, {240, 240, 7620, 1125}, 8100}}) {
+        const MessageBox box(std::string(letters, 'x'), "!");
+        EXPECT_EQ(std::tuple(box.lblText.place(), box.Width()), std::tuple(place, width)) << letters;
+        EXPECT_GE(box.cmdOK.place().Top, place.Top + place.Height);
+        EXPECT_LT(box.cmdOK.place().Top + box.cmdOK.place().Height, box.Height());
+    }
+}
+
 TEST(FormTest, ExitAndClosingTheWindowEndTheApplication) {
     const auto expectEnd = [](auto form, bool byButton) {
         Table table;
