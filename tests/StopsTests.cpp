@@ -80,7 +80,8 @@ TEST(StopsTest, AreOneForEachCardAndPileAfterADealAndArrowsLeadFromEachToEveryOt
             const std::vector<Point> others = stops(box.displayList(), box.dragBounds, KeyboardCursor{all[from]});
             for (const Point arrow : {Point{-1, 0}, {0, -1}, {1, 0}, {0, 1}}) {
                 if (const auto stop = stopTowards(others, all[from], arrow)) {
-                    next[from].push_back(std::find(all.begin(), all.end(), *stop) - all.begin());
+                    next[from].push_back(
+                        static_cast<std::size_t>(std::find(all.begin(), all.end(), *stop) - all.begin()));
                 }
             }
         }

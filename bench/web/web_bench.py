@@ -5,9 +5,9 @@ import pathlib
 import statistics
 import sys
 
-from tests.play.page import Page
-from tests.play.player import in_spread
-from tests.play.server import Server
+from tools.play.page import Page
+from tools.play.player import in_spread
+from tools.play.server import Server
 
 HERE = pathlib.Path(__file__).resolve().parent
 ROUNDS = 21

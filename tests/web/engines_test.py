@@ -3,11 +3,11 @@
 import sys
 import unittest
 
-from tests.play.drivers import Firefox, WebKit
-from tests.play.player import CORNERS, in_spread, wait
-from tests.play.scenarios import ASIDE, LOWEST, PageSteps
-from tests.play.screen import Screen
-from tests.play.server import Server
+from tools.play.drivers import Firefox, WebKit
+from tools.play.player import CORNERS, in_spread, wait
+from tests.scenarios import ASIDE, LOWEST, PageSteps
+from tools.play.screen import Screen
+from tools.play.server import Server
 
 
 class EnginesTest(PageSteps, unittest.TestCase):

@@ -10,9 +10,9 @@ import tempfile
 import time
 import unittest
 
-from tests.play.page import Page
-from tests.play.player import wait
-from tests.play.server import Server
+from tools.play.page import Page
+from tools.play.player import wait
+from tools.play.server import Server
 
 SOURCES = pathlib.Path(__file__).resolve().parents[2] / "platform/web"
 SHOWN = """[document.documentElement.dataset.version,

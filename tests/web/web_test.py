@@ -5,10 +5,10 @@ import pathlib
 import sys
 import unittest
 
-from tests.play.page import Page
-from tests.play.player import CORNERS, FREE, in_spread, wait
-from tests.play.scenarios import ASIDE, BELOW, BLANK, TABLE, PageSteps, Scenarios
-from tests.play.server import Server
+from tools.play.page import Page
+from tools.play.player import CORNERS, FREE, in_spread, wait
+from tests.scenarios import ASIDE, BELOW, BLANK, TABLE, PageSteps, Scenarios
+from tools.play.server import Server
 
 AXE = pathlib.Path(__file__).with_name("node_modules") / "axe-core/axe.min.js"
 

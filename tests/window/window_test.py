@@ -4,10 +4,10 @@ import itertools
 import sys
 import unittest
 
-from tests.play.game import Game
-from tests.play.player import CORNERS, FREE, in_spread, wait
-from tests.play.scenarios import BELOW, Scenarios
-from tests.play.screen import Screen, require_programs, stop
+from tools.play.game import Game
+from tools.play.player import CORNERS, FREE, in_spread, wait
+from tests.scenarios import BELOW, Scenarios
+from tools.play.screen import Screen, require_programs, stop
 
 CHOICES = ["Small", "Medium", "Normal", "Natural", "Shuffled", "By rank then suit, ascending",
            "By rank then suit, descending", "By suit then rank, ascending", "By suit then rank, descending",

@@ -8,8 +8,8 @@ import os
 import subprocess
 import tempfile
 
-from tests.play.player import DEADLINE, Player, wait
-from tests.play.screen import atspi, children
+from .player import DEADLINE, Player, wait
+from .screen import atspi, children
 
 
 class Game(Player):

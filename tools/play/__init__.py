@@ -1,5 +1,5 @@
 """Plays the game as a person does.
 
 `game` plays the program in a real window on a `screen` of its own; `page` and `drivers` play the page that a `server`
-hands out in browsers. `scenarios` holds the steps and tests that hold for both.
+hands out in browsers. The tests, the benchmark of the page and the scripts beside this folder use them.
 """

@@ -11,8 +11,8 @@ import urllib.request
 import websocket
 from PIL import Image
 
-from tests.play.page import Page
-from tests.play.player import wait
+from .page import Page
+from .player import wait
 
 KEYS = {"Enter": "\ue007", "Escape": "\ue00c", "PageUp": "\ue00e", "PageDown": "\ue00f", "End": "\ue010",
         "Home": "\ue011", "ArrowLeft": "\ue012", "ArrowUp": "\ue013", "ArrowRight": "\ue014", "ArrowDown": "\ue015"}

@@ -10,7 +10,7 @@ from PIL import Image
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 
-from tests.play.player import FREE, Player, wait
+from .player import FREE, Player, wait
 
 SWITCHES = ("--headless=new --no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking "
             "--disable-component-update --disable-sync").split()

@@ -8,7 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-from tests.play.player import DEADLINE, wait
+from .player import DEADLINE, wait
 
 PROGRAMS = ("Xvfb", "openbox", "xdotool", "xwininfo", "import", "dbus-daemon", "/usr/libexec/at-spi-bus-launcher")
 SKIPPED = 77  # the exit status of a test that cannot run here

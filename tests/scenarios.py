@@ -1,6 +1,6 @@
 """Steps and tests of a game, wherever it runs."""
 
-from tests.play.player import CORNERS, FREE, in_spread, wait
+from tools.play.player import CORNERS, FREE, in_spread, wait
 
 LOWEST = "You must play the lowest ranking card, a Two"
 # Two places below the spread.
