@@ -2,17 +2,11 @@
 
 #include "game/frmAbout.h"
 #include "platform/forms/MessageBox.h"
+#include "platform/forms/Mouse.h"
 
 #include <cassert>
 
 namespace tumble {
-
-namespace {
-
-constexpr std::int16_t leftButton = 1;
-constexpr std::int16_t rightButton = 2;
-
-} // namespace
 
 frmTumble::frmTumble(const std::unique_ptr<CardTracker>& tableTracker)
     : Form("Tumble", clientWidth, clientHeight), tableTracker_(tableTracker) {
